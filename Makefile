@@ -1,0 +1,29 @@
+# Newcomer entry points:
+#   make test   installs what is missing, builds everything and runs every test
+#   make run    builds and starts the gallery (screenshots when there is no display)
+BUILD ?= build
+BUILD_TYPE ?= RelWithDebInfo
+SCREENSHOTS ?= screenshots
+
+.PHONY: deps configure build test run bench clean
+
+deps:
+	bash scripts/install-deps.sh
+
+configure: deps
+	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE)
+
+build: configure
+	cmake --build $(BUILD) -j 2
+
+test: build
+	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j 2
+
+run: build
+	bash scripts/run-gallery.sh $(BUILD) $(SCREENSHOTS)
+
+bench: build
+	bash scripts/run-benchmarks.sh $(BUILD)
+
+clean:
+	rm -rf $(BUILD)

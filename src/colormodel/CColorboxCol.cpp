@@ -1,0 +1,108 @@
+#include "colormodel/CColorboxCol.h"
+
+#include "colormodel/CheckedMath.h"
+#include "colormodel/CommonGlobals.h"
+
+namespace lumo {
+namespace {
+
+constexpr const char* kModule = "CColorboxCol";
+constexpr std::int32_t kFarthest = 1 << 30;
+
+}  // namespace
+
+CColorboxCol::~CColorboxCol() {
+  // A cell that outlives its list must not point back at it.
+  for (const auto& cell : cells_) cell->SetParent(nullptr);
+}
+
+CellPtr CColorboxCol::Add(const std::string& sName, OLE_COLOR lColor, std::int32_t lX,
+                          std::int32_t lY, bool bIsLarge) {
+  CellPtr result;
+  errors_.Trap(kModule, "Add", [&] {
+    auto cell = std::make_shared<CColorboxEl>(errors_);
+    cell->SetParent(this);
+    cell->SetName(sName);
+    cell->SetColor(lColor);
+    cell->SetX(lX);
+    cell->SetY(lY);
+    cell->SetIsLarge(bIsLarge);
+    cells_.push_back(cell);
+    newIndex_ = Count();
+    result = std::move(cell);
+  });
+  return result;
+}
+
+CellPtr CColorboxCol::At(std::int32_t index) const {
+  if (index < 1 || index > static_cast<std::int32_t>(cells_.size())) {
+    throw RuntimeError(err::IndexOutOfRange);
+  }
+  return cells_[static_cast<std::size_t>(index - 1)];
+}
+
+CellPtr CColorboxCol::Item(std::int32_t index) const {
+  CellPtr result;
+  errors_.Trap(kModule, "Item", [&] { result = At(index); });
+  return result;
+}
+
+std::int32_t CColorboxCol::Count() const { return static_cast<std::int32_t>(cells_.size()); }
+
+void CColorboxCol::Remove(std::int32_t index) {
+  errors_.Trap(kModule, "Remove", [&] {
+    const CellPtr cell = Item(index);  // reports an invalid position itself
+    if (!cell) return;
+    cell->SetParent(nullptr);
+    cells_.erase(cells_.begin() + (index - 1));
+    newIndex_ = 0;
+  });
+}
+
+void CColorboxCol::Clear() {
+  errors_.Trap(kModule, "Clear", [&] {
+    const std::int32_t n = Count();
+    for (std::int32_t i = 0; i < n; ++i) Remove(1);
+    cells_.clear();
+  });
+}
+
+CellPtr CColorboxCol::FindClosest(OLE_COLOR lColor) const {
+  CellPtr result;
+  errors_.Trap(kModule, "FindClosest", [&] {
+    std::int32_t best = kFarthest;
+    std::int32_t bestPosition = 0;
+    std::int32_t position = 0;
+    for (const auto& cell : cells_) {
+      ++position;
+      const std::int32_t distance = checked::Abs(checked::Sub(cell->Color(), lColor));
+      if (distance < best) {
+        best = distance;
+        bestPosition = position;
+      }
+    }
+    if (bestPosition > 0) result = Item(bestPosition);
+  });
+  return result;
+}
+
+CellPtr CColorboxCol::GetObject(std::int32_t lX, std::int32_t lY) const {
+  for (const auto& cell : cells_) {
+    if (cell->BoundLeft() <= lX && lX <= cell->BoundRight() && cell->BoundTop() <= lY &&
+        lY <= cell->BoundBottom()) {
+      return cell;
+    }
+  }
+  return nullptr;
+}
+
+CellPtr CColorboxCol::GetObjectByColor(OLE_COLOR lColor) const {
+  for (const auto& cell : cells_) {
+    if (cell->Color() == lColor) return cell;
+  }
+  return nullptr;
+}
+
+bool CColorboxCol::ColorExists(OLE_COLOR lColor) const { return GetObjectByColor(lColor) != nullptr; }
+
+}  // namespace lumo

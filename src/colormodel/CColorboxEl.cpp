@@ -1,0 +1,56 @@
+#include "colormodel/CColorboxEl.h"
+
+#include "colormodel/CColorboxCol.h"
+#include "colormodel/CommonGlobals.h"
+#include "colormodel/TextRules.h"
+
+namespace lumo {
+
+void CColorboxEl::SetBounds(std::int32_t left, std::int32_t top, std::int32_t right,
+                            std::int32_t bottom) {
+  boundLeft_ = left;
+  boundTop_ = top;
+  boundRight_ = right;
+  boundBottom_ = bottom;
+}
+
+std::int32_t CColorboxEl::Index() const {
+  std::int32_t result = 0;
+  errors_.Trap("CColorboxEl", "Index", [&] {
+    if (parent_ == nullptr) throw RuntimeError(err::ObjectNotSet);
+    std::int32_t position = 0;
+    for (const auto& cell : *parent_) {
+      ++position;
+      if (cell.get() == this) {
+        result = position;
+        return;
+      }
+    }
+  });
+  return result;
+}
+
+std::string CColorboxEl::SixHexDigits() const {
+  const std::string digits = text::Hex(Color());
+  return text::Repeat(6 - text::Len(digits), '0') + digits;
+}
+
+std::string CColorboxEl::GetColorString() const {
+  std::string result;
+  errors_.Trap(name_, "GetColorString", [&] {
+    const std::string bgr = SixHexDigits();
+    result = bgr.substr(4, 2) + "," + bgr.substr(2, 2) + "," + bgr.substr(0, 2);
+  });
+  return result;
+}
+
+std::string CColorboxEl::GetColorStringHex() const {
+  std::string result;
+  errors_.Trap(name_, "GetColorStringHex", [&] {
+    const std::string bgr = SixHexDigits();
+    result = "#" + bgr.substr(4, 2) + bgr.substr(2, 2) + bgr.substr(0, 2);
+  });
+  return result;
+}
+
+}  // namespace lumo

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "colormodel/StdFont.h"
+#include "colormodel/Types.h"
+
+namespace lumo {
+
+// What a control asks of the container it sits in: change notification, the
+// container's ambient properties, and its own outer size and state.
+class ControlSite {
+ public:
+  virtual ~ControlSite() = default;
+
+  // A persisted property changed: the host should save the control again.
+  virtual void PropertyChanged(const std::string& /*name*/) {}
+
+  virtual StdFont AmbientFont() const { return {}; }
+  // False while a form designer shows the control, true at run time.
+  virtual bool AmbientUserMode() const { return true; }
+  virtual std::string AmbientDisplayName() const { return {}; }
+
+  // The control's outer size, in twips.
+  virtual std::int32_t Width() const = 0;
+  virtual std::int32_t Height() const = 0;
+  virtual void Size(std::int32_t width, std::int32_t height) = 0;
+
+  virtual void SetEnabled(bool /*enabled*/) {}
+  // The characters that, with Alt, give the control the focus.
+  virtual void SetAccessKeys(const std::string& /*keys*/) {}
+  virtual WindowHandle hWnd() const { return 0; }
+};
+
+}  // namespace lumo

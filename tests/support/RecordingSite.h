@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "colormodel/ControlSite.h"
+
+namespace lumo::testing {
+
+// A container that records change notifications and keeps the size it is given.
+class RecordingSite : public ControlSite {
+ public:
+  void PropertyChanged(const std::string& name) override { Changed.push_back(name); }
+  StdFont AmbientFont() const override { return Font; }
+  bool AmbientUserMode() const override { return UserMode; }
+  std::string AmbientDisplayName() const override { return DisplayName; }
+  std::int32_t Width() const override { return WidthTwips; }
+  std::int32_t Height() const override { return HeightTwips; }
+  void Size(std::int32_t width, std::int32_t height) override {
+    WidthTwips = width;
+    HeightTwips = height;
+    ++SizeCalls;
+  }
+  void SetEnabled(bool enabled) override { Enabled = enabled; }
+  void SetAccessKeys(const std::string& keys) override { AccessKeys = keys; }
+
+  std::vector<std::string> Changed;
+  StdFont Font;
+  bool UserMode = true;
+  std::string DisplayName = "Control1";
+  std::int32_t WidthTwips = 0;
+  std::int32_t HeightTwips = 0;
+  int SizeCalls = 0;
+  bool Enabled = true;
+  std::string AccessKeys;
+};
+
+}  // namespace lumo::testing

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "colormodel/WindowSystem.h"
+#include "support/TestForm.h"
+
+namespace lumo::testing {
+
+// A window system whose state the test sets (capture, activation, focus, screen) and
+// whose modal shows run the test's script for that form and return when it unloads.
+class ScriptedWindowSystem : public WindowSystem {
+ public:
+  std::unique_ptr<FormWindow> LoadForm(const std::string& name, FormEvents& events) override;
+  std::int32_t ScreenWidth() const override { return ScreenWidthTwips; }
+  std::int32_t ScreenHeight() const override { return ScreenHeightTwips; }
+  WindowHandle SetCapture(WindowHandle window) override;
+  WindowHandle GetCapture() const override { return Capture; }
+  bool ReleaseCapture() override;
+  WindowHandle GetActiveWindow() const override { return ActiveWindow; }
+  WindowHandle GetFocus() const override { return Focus; }
+  Point ClientToScreen(WindowHandle window, Point point) const override;
+  void DoEvents() override;
+
+  // --- for tests ---
+  // What the user does while the named form is shown modally.
+  void ScriptModal(const std::string& formName, std::function<void(TestForm&)> script) {
+    scripts_[formName] = std::move(script);
+  }
+  // The most recently loaded form of that name (null if none was loaded).
+  TestForm* LastForm(const std::string& formName) const;
+
+  std::int32_t ScreenWidthTwips = 1024 * 15;
+  std::int32_t ScreenHeightTwips = 768 * 15;
+  WindowHandle Capture = 0;
+  WindowHandle ActiveWindow = 0;
+  WindowHandle Focus = 0;
+  std::map<WindowHandle, Point> ClientOrigins;  // screen position of each window's client origin
+  std::vector<WindowHandle> CaptureCalls;
+  int ReleaseCalls = 0;
+  int DoEventsCalls = 0;
+  std::function<void()> OnDoEvents;
+  std::vector<std::string> LoadedForms;
+
+ private:
+  std::map<std::string, std::function<void(TestForm&)>> scripts_;
+  std::map<std::string, TestForm*> lastForms_;
+  WindowHandle nextHandle_ = 0x9000;
+};
+
+}  // namespace lumo::testing

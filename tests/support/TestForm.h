@@ -1,0 +1,83 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "colormodel/FormEvents.h"
+#include "colormodel/FormWindow.h"
+#include "colormodel/TextBox.h"
+#include "support/RecordingSite.h"
+#include "support/RecordingSurface.h"
+
+namespace lumo::testing {
+
+class TestTextBox : public TextBox {
+ public:
+  std::string Text() const override { return text_; }
+  void SetText(const std::string& text) override { text_ = text; }
+
+ private:
+  std::string text_;
+};
+
+// A headless form: geometry in twips, children made on first use by name, and the
+// user's actions (clicks, leaving a text box, closing from the title bar) as calls.
+class TestForm : public FormWindow {
+ public:
+  TestForm(std::string name, FormEvents& events, WindowHandle handle);
+
+  WindowHandle hWnd() const override { return handle_; }
+  std::string Caption() const override { return caption_; }
+  void SetCaption(const std::string& caption) override { caption_ = caption; }
+  std::int32_t Left() const override { return left_; }
+  std::int32_t Top() const override { return top_; }
+  std::int32_t Width() const override { return width_; }
+  std::int32_t Height() const override { return height_; }
+  std::int32_t ScaleWidth() const override { return width_ - 2 * BorderTwips; }
+  std::int32_t ScaleHeight() const override { return height_ - 2 * BorderTwips; }
+  void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) override;
+  void Show(bool modal) override;
+  void Unload() override { UnloadWithMode(unloadmode::Code); }
+  bool IsLoaded() const override { return loaded_; }
+  DrawingSurface& Surface(const std::string& name) override { return RecordingSurfaceNamed(name); }
+  ControlSite& Site(const std::string& name) override { return SiteNamed(name); }
+  TextBox& TextField(const std::string& name) override { return TextBoxNamed(name); }
+
+  // --- for tests ---
+  const std::string& Name() const { return name_; }
+  RecordingSurface& RecordingSurfaceNamed(const std::string& name);
+  RecordingSite& SiteNamed(const std::string& name);
+  TestTextBox& TextBoxNamed(const std::string& name);
+  void ClickControl(const std::string& control, std::int32_t index = 0);
+  void LeaveControl(const std::string& control);
+  void CloseFromTitleBar() { UnloadWithMode(unloadmode::ControlMenu); }
+  bool IsVisible() const { return visible_; }
+  int ModalShows = 0;
+  // The script a modal show runs in place of the user; set by the window system.
+  std::function<void(TestForm&)> ModalScript;
+  // A modal show whose script ended without unloading the form; the show returns
+  // anyway (a test must never hang), and the test can assert on this.
+  bool ModalLeftOpen = false;
+  static constexpr std::int32_t BorderTwips = 60;
+
+ private:
+  void UnloadWithMode(std::int32_t mode);
+
+  std::string name_;
+  FormEvents& events_;
+  WindowHandle handle_;
+  std::string caption_;
+  std::int32_t left_ = 0;
+  std::int32_t top_ = 0;
+  std::int32_t width_ = 4800;
+  std::int32_t height_ = 3600;
+  bool loaded_ = true;
+  bool visible_ = false;
+  std::map<std::string, std::unique_ptr<RecordingSurface>> surfaces_;
+  std::map<std::string, std::unique_ptr<RecordingSite>> sites_;
+  std::map<std::string, std::unique_ptr<TestTextBox>> textBoxes_;
+};
+
+}  // namespace lumo::testing
