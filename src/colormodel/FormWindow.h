@@ -9,6 +9,7 @@ namespace lumo {
 
 class ControlSite;
 class DrawingSurface;
+class Label;
 class TextBox;
 
 // One of the library's own top-level windows (the drop-down, the More Colors dialog).
@@ -42,6 +43,8 @@ class FormWindow {
   virtual DrawingSurface& Surface(const std::string& name) = 0;
   virtual ControlSite& Site(const std::string& name) = 0;
   virtual TextBox& TextField(const std::string& name) = 0;
+  // A label; a hosted control's own label is named "<control>.<label>".
+  virtual Label& LabelNamed(const std::string& name) = 0;
 };
 
 }  // namespace lumo

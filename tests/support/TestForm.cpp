@@ -48,6 +48,12 @@ TestTextBox& TestForm::TextBoxNamed(const std::string& name) {
   return *slot;
 }
 
+TestLabel& TestForm::TestLabelNamed(const std::string& name) {
+  auto& slot = labels_[name];
+  if (!slot) slot = std::make_unique<TestLabel>();
+  return *slot;
+}
+
 void TestForm::ClickControl(const std::string& control, std::int32_t index) {
   events_.ControlClick(control, index);
 }

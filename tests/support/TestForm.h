@@ -8,6 +8,7 @@
 #include "colormodel/FormEvents.h"
 #include "colormodel/FormWindow.h"
 #include "colormodel/TextBox.h"
+#include "support/TestLabel.h"
 #include "support/RecordingSite.h"
 #include "support/RecordingSurface.h"
 
@@ -44,12 +45,14 @@ class TestForm : public FormWindow {
   DrawingSurface& Surface(const std::string& name) override { return RecordingSurfaceNamed(name); }
   ControlSite& Site(const std::string& name) override { return SiteNamed(name); }
   TextBox& TextField(const std::string& name) override { return TextBoxNamed(name); }
+  Label& LabelNamed(const std::string& name) override { return TestLabelNamed(name); }
 
   // --- for tests ---
   const std::string& Name() const { return name_; }
   RecordingSurface& RecordingSurfaceNamed(const std::string& name);
   RecordingSite& SiteNamed(const std::string& name);
   TestTextBox& TextBoxNamed(const std::string& name);
+  TestLabel& TestLabelNamed(const std::string& name);
   void ClickControl(const std::string& control, std::int32_t index = 0);
   void LeaveControl(const std::string& control);
   void CloseFromTitleBar() { UnloadWithMode(unloadmode::ControlMenu); }
@@ -78,6 +81,7 @@ class TestForm : public FormWindow {
   std::map<std::string, std::unique_ptr<RecordingSurface>> surfaces_;
   std::map<std::string, std::unique_ptr<RecordingSite>> sites_;
   std::map<std::string, std::unique_ptr<TestTextBox>> textBoxes_;
+  std::map<std::string, std::unique_ptr<TestLabel>> labels_;
 };
 
 }  // namespace lumo::testing
