@@ -1,0 +1,281 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "colorhexagon/ColorHexagon.h"
+#include "colorhexagon/HexagonTable.h"
+#include "colormodel/TextRules.h"
+#include "support/MemoryPropertyBag.h"
+#include "support/RecordingSite.h"
+#include "support/RecordingSurface.h"
+#include "support/TestHost.h"
+#include "support/TestLabel.h"
+
+namespace lumo {
+namespace {
+
+using namespace lumo::testing;
+
+// Every event as one line: name, colour in hex, then the other arguments.
+struct EventLog : ColorHexagonEvents {
+  std::vector<std::string> Seen;
+  void ColorChanged(OLE_COLOR c, const std::string& name, const std::string& hex) override {
+    Seen.push_back("ColorChanged " + text::Hex(c) + " " + name + " " + hex);
+  }
+  void IsAutomaticChanged(bool value) override { Seen.push_back(value ? "IsAutomaticChanged 1" : "IsAutomaticChanged 0"); }
+  void ColorClick(OLE_COLOR c, const std::string& name, std::int16_t b, std::int16_t, std::int32_t x, std::int32_t y) override {
+    Seen.push_back("ColorClick " + text::Hex(c) + " " + name + " " + std::to_string(b) + " " + std::to_string(x) + "," + std::to_string(y));
+  }
+  void ColorDblClick(OLE_COLOR c, const std::string& name) override { Seen.push_back("ColorDblClick " + text::Hex(c) + " " + name); }
+  void ColorOver(OLE_COLOR c, const std::string& name, std::int16_t, std::int16_t, std::int32_t, std::int32_t) override {
+    Seen.push_back("ColorOver " + text::Hex(c) + " " + name);
+  }
+};
+
+class Hexagon : public ::testing::Test {
+ protected:
+  TestHost host;
+  RecordingSurface screen{239, 249};
+  TestLabel label;
+  RecordingSite site;
+  EventLog events;
+  ColorHexagon hexagon{host.Runtime, screen, label, site, events};
+
+  CellPtr Cell(std::int32_t index) const { return hexagon.Cells()->Item(index); }
+  // The middle of a cell's stored box: inside that cell only.
+  Point Centre(std::int32_t index) const {
+    const CellPtr c = Cell(index);
+    return {(c->BoundLeft() + c->BoundRight()) / 2, (c->BoundTop() + c->BoundBottom()) / 2};
+  }
+  void Click(std::int32_t index) { screen.Click(Centre(index).X, Centre(index).Y); }
+  std::int32_t Selected() const { return hexagon.SelectedCell() ? hexagon.SelectedCell()->Index() : 0; }
+  void MakeManual() {
+    hexagon.SetIsAutomatic(false);
+    events.Seen.clear();
+    screen.ClearCalls();
+  }
+};
+
+TEST_F(Hexagon, InitialisePaintsEachCellInItsOwnColourAndStoresItsBox) {
+  ASSERT_EQ(hexagon.Cells()->Count(), HexagonTable::CellCount);
+  const auto polygons = screen.CallsOf("Polygon");
+  ASSERT_EQ(polygons.size(), static_cast<std::size_t>(HexagonTable::CellCount));
+  EXPECT_EQ(polygons[0].Args, (std::vector<std::int32_t>{54, 4, 63, 0, 71, 4, 71, 14, 64, 18, 63, 18, 54, 14}));
+  EXPECT_EQ(polygons[0].FillColor, ColorHexagon::DefaultColor);
+  EXPECT_EQ(polygons[0].ForeColor, ColorHexagon::DefaultColor);
+  EXPECT_EQ(polygons[0].FillStyle, fill::Solid);
+  EXPECT_EQ(polygons[127].Args, (std::vector<std::int32_t>{36, 214, 54, 206, 71, 214, 71, 234, 55, 242, 54, 242, 36, 234}));
+  EXPECT_EQ((Rect{Cell(128)->BoundLeft(), Cell(128)->BoundTop(), Cell(128)->BoundRight(), Cell(128)->BoundBottom()}),
+            (Rect{36, 214, 71, 234}));
+  EXPECT_EQ(screen.FillStyle(), fill::Transparent);
+  EXPECT_TRUE(events.Seen.empty());
+  EXPECT_EQ(Selected(), 0);
+}
+
+TEST_F(Hexagon, NewPlacementLoadsTheTableASecondTime) {
+  hexagon.UserControl_InitProperties();
+  ASSERT_EQ(hexagon.Cells()->Count(), 2 * HexagonTable::CellCount);
+  EXPECT_EQ(Cell(136)->Color(), Cell(1)->Color());
+  EXPECT_EQ(hexagon.Cells()->GetObject(Centre(1).X, Centre(1).Y), Cell(1));  // the first copy is hit
+}
+
+TEST_F(Hexagon, SelectionMarkIsInsetThreeLeftTwoRightInInvertedColourAtPenWidthTwo) {
+  MakeManual();
+  hexagon.SetColor(ColorHexagon::DefaultColor);
+  const auto polygons = screen.CallsOf("Polygon");
+  ASSERT_EQ(polygons.size(), 2u);
+  EXPECT_EQ(polygons[1].Args, (std::vector<std::int32_t>{57, 4, 63, 2, 69, 4, 69, 14, 64, 16, 63, 16, 57, 14}));
+  EXPECT_EQ(polygons[1].ForeColor, 0x99CCFF);  // 0x663300 inverted
+  EXPECT_EQ(polygons[1].DrawWidth, 2);
+  EXPECT_EQ(polygons[1].FillStyle, fill::Transparent);
+  EXPECT_EQ(screen.DrawWidth(), 1);
+  EXPECT_EQ(Selected(), 1);
+}
+
+struct SetColorCase {
+  OLE_COLOR color;
+  std::int32_t markedCell;
+  const char* event;
+  friend void PrintTo(const SetColorCase& c, std::ostream* os) { *os << text::Hex(c.color); }
+};
+
+class HexagonColorSetter : public Hexagon, public ::testing::WithParamInterface<SetColorCase> {};
+
+TEST_P(HexagonColorSetter, MarksTheExactCellOrCellOneAndReportsTheSetColour) {
+  MakeManual();
+  hexagon.SetColor(GetParam().color);
+  EXPECT_EQ(Selected(), GetParam().markedCell);
+  EXPECT_EQ(hexagon.Color(), GetParam().color);
+  EXPECT_EQ(events.Seen, std::vector<std::string>{GetParam().event});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    TableAndOutside, HexagonColorSetter,
+    ::testing::Values(SetColorCase{0xFFFFFF, 64, "ColorChanged FFFFFF Hex={FF,FF,FF} Hex={FF,FF,FF}"},
+                      SetColorCase{RGB(0xFF, 0x66, 0x66), 100, "ColorChanged 6666FF Hex={FF,66,66} Hex={FF,66,66}"},
+                      SetColorCase{RGB(1, 2, 3), 1, "ColorChanged 30201 Hex={01,02,03} Hex={01,02,03}"},
+                      SetColorCase{0, 135, "ColorChanged 0 Hex={00,00,00} Hex={00,00,00}"}),
+    [](const auto& info) { return "Marks" + std::to_string(info.param.markedCell); });
+
+TEST_F(Hexagon, WhileAutomaticTheColourIsOnlyStored) {
+  screen.ClearCalls();
+  hexagon.SetColor(0xFFFFFF);
+  hexagon.SetIsAutomatic(true);
+  EXPECT_EQ(hexagon.Color(), 0xFFFFFF);
+  EXPECT_TRUE(events.Seen.empty());
+  EXPECT_EQ(screen.CountOf("Polygon"), 0);
+}
+
+TEST_F(Hexagon, ASystemColourWhileManualIsReportedUnderTheSetter) {
+  MakeManual();
+  hexagon.SetColor(sys::ButtonFace);
+  ASSERT_FALSE(host.Messages.Shown.empty());
+  EXPECT_NE(host.Messages.Shown.back().Prompt.find("Module: ColorHexagon\r\nProcedure: Color\r\n"), std::string::npos);
+  EXPECT_TRUE(events.Seen.empty());
+}
+
+struct ClickCase {
+  const char* name;
+  bool automaticBefore;
+  OLE_COLOR colorBefore;
+  std::vector<std::string> events;
+  friend void PrintTo(const ClickCase& c, std::ostream* os) { *os << c.name; }
+};
+
+class HexagonClick : public Hexagon, public ::testing::WithParamInterface<ClickCase> {};
+
+TEST_P(HexagonClick, RaisesColourThenAutomaticThenClick) {
+  if (!GetParam().automaticBefore) MakeManual();
+  hexagon.SetColor(GetParam().colorBefore);
+  events.Seen.clear();
+  Click(64);
+  EXPECT_EQ(events.Seen, GetParam().events);
+  EXPECT_EQ(hexagon.Color(), 0xFFFFFF);
+  EXPECT_FALSE(hexagon.IsAutomatic());
+  EXPECT_EQ(Selected(), 64);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    States, HexagonClick,
+    ::testing::Values(ClickCase{"FromAutomatic", true, 0, {"IsAutomaticChanged 0", "ColorClick FFFFFF Hex={FF,FF,FF} 1 116,99"}},
+                      ClickCase{"ToANewColour", false, 0, {"ColorChanged FFFFFF Hex={FF,FF,FF} Hex={FF,FF,FF}",
+                                           "ColorClick FFFFFF Hex={FF,FF,FF} 1 116,99"}},
+                      ClickCase{"OnTheCurrentColour", false, 0xFFFFFF, {"ColorClick FFFFFF Hex={FF,FF,FF} 1 116,99"}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(Hexagon, ReleasingOnAnotherCellCancelsAndDoubleClickThenDoesNothing) {
+  screen.MouseDown(Centre(64).X, Centre(64).Y);
+  screen.MouseUp(Centre(65).X, Centre(65).Y);
+  screen.DoubleClick();
+  EXPECT_TRUE(events.Seen.empty());
+  EXPECT_TRUE(hexagon.IsAutomatic());
+  EXPECT_EQ(hexagon.Color(), ColorHexagon::DefaultColor);
+}
+
+TEST_F(Hexagon, DoubleClickAfterACompletedClickReportsTheCurrentColour) {
+  Click(135);
+  events.Seen.clear();
+  screen.DoubleClick();
+  EXPECT_EQ(events.Seen, std::vector<std::string>{"ColorDblClick 0 Hex={00,00,00}"});
+}
+
+TEST_F(Hexagon, HoverShowsTextsUntilTheTimerClearsThemOffTheCells) {
+  screen.MouseMove(Centre(1).X, Centre(1).Y);
+  EXPECT_EQ(label.Caption(), "Hex={00,33,66}");
+  EXPECT_EQ(screen.ToolTipText(), "00,33,66 (#003366)");
+  EXPECT_EQ(events.Seen, std::vector<std::string>{"ColorOver 663300 Hex={00,33,66}"});
+  host.Timers.FireEnabled();
+  EXPECT_EQ(label.Caption(), "Hex={00,33,66}");  // still over a cell
+  screen.MouseMove(2, 2);                        // inside the surface, off the cells
+  EXPECT_EQ(label.Caption(), "Hex={00,33,66}");
+  host.Timers.FireEnabled();
+  EXPECT_EQ(label.Caption(), "");
+  EXPECT_EQ(screen.ToolTipText(), "");
+}
+
+TEST_F(Hexagon, LeavingTheSurfaceReleasesTheCapture) {
+  screen.MouseMove(-1, 10);
+  EXPECT_EQ(host.Windows.ReleaseCalls, 1);
+  screen.MouseMove(239, 249);  // the far edge still counts as inside
+  EXPECT_EQ(host.Windows.ReleaseCalls, 1);
+  ASSERT_EQ(host.Timers.Live().size(), 1u);
+  EXPECT_EQ(host.Timers.Live()[0]->Interval(), ColorHexagon::TimerIntervalMs);
+}
+
+TEST_F(Hexagon, FirstKeySelectsCellOneAndArrowsMoveWithoutTouchingAutomatic) {
+  screen.Key(65);
+  EXPECT_EQ(Selected(), 1);
+  EXPECT_EQ(events.Seen, std::vector<std::string>{"ColorChanged 663300 Hex={00,33,66} Hex={6697728}"});
+  screen.Key(40);
+  screen.Key(39);
+  EXPECT_EQ(Selected(), 10);
+  EXPECT_EQ(hexagon.Color(), Cell(10)->Color());
+  EXPECT_TRUE(hexagon.IsAutomatic());
+  screen.Key(65);
+  EXPECT_EQ(Selected(), 10);
+}
+
+struct MoveCase {
+  std::int32_t from;
+  std::int32_t direction;
+  std::int32_t to;
+  std::string Name() const {
+    static const char* const kDirections[] = {"", "Left", "Right", "Up", "Down", "Other"};
+    return "From" + std::to_string(from) + kDirections[direction] + "To" + std::to_string(to);
+  }
+  friend void PrintTo(const MoveCase& c, std::ostream* os) { *os << c.Name(); }
+};
+
+class HexagonNextIndex : public Hexagon, public ::testing::WithParamInterface<MoveCase> {};
+
+TEST_P(HexagonNextIndex, WalksTheDiagonalsWithTheirWraps) {
+  hexagon.UserControl_InitProperties();  // a live control: 270 cells
+  EXPECT_EQ(hexagon.GetNextIndex(GetParam().from, GetParam().direction), GetParam().to);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EdgeCases, HexagonNextIndex,
+    ::testing::Values(MoveCase{1, 1, 1}, MoveCase{270, 2, 270}, MoveCase{3, 3, 2}, MoveCase{8, 3, 1},
+                      MoveCase{16, 3, 7}, MoveCase{58, 3, 45}, MoveCase{128, 3, 127}, MoveCase{200, 3, 200},
+                      MoveCase{45, 4, 57}, MoveCase{70, 4, 83}, MoveCase{112, 4, 121}, MoveCase{120, 4, 128},
+                      MoveCase{121, 4, 122}, MoveCase{127, 4, 128}, MoveCase{135, 4, 136}, MoveCase{20, 5, 0}),
+    [](const auto& info) { return info.param.Name(); });
+
+TEST_F(Hexagon, PersistsFiveKeysInOrderAndReadsThemBack) {
+  hexagon.SetAutomaticText("Auto");
+  hexagon.SetAutoColor(0x123456);
+  hexagon.SetBackColor(0xFFFFFF);
+  MakeManual();
+  hexagon.SetColor(0xFFFFFF);
+  MemoryPropertyBag bag;
+  hexagon.UserControl_WriteProperties(bag);
+  const std::vector<std::string> keys{"IsAutomatic", "AutomaticText", "AutoColor", "Color", "BackColor"};
+  EXPECT_EQ(bag.WriteOrder, keys);
+
+  RecordingSurface otherScreen{239, 249};
+  EventLog otherEvents;
+  ColorHexagon loaded{host.Runtime, otherScreen, label, site, otherEvents};
+  loaded.UserControl_ReadProperties(bag);
+  EXPECT_EQ(bag.ReadOrder, keys);
+  EXPECT_FALSE(loaded.IsAutomatic());
+  EXPECT_EQ(loaded.AutomaticText(), "Auto");
+  EXPECT_EQ(loaded.AutoColor(), 0x123456);
+  EXPECT_EQ(loaded.Color(), 0xFFFFFF);
+  EXPECT_EQ(loaded.BackColor(), 0xFFFFFF);
+  EXPECT_EQ(loaded.SelectedCell()->Index(), 64);  // the refresh marks the loaded colour
+  EXPECT_EQ(otherScreen.BackColor(), 0xFFFFFF);
+}
+
+TEST_F(Hexagon, ResizeSnapsToTheSurfaceAndTheLabelUnderIt) {
+  site.Size(9000, 9000);
+  hexagon.UserControl_Resize();
+  EXPECT_EQ(screen.CallsOf("Move").back().Args, (std::vector<std::int32_t>{0, 0, 3585, 3735}));
+  EXPECT_EQ(label.Left(), 0);
+  EXPECT_EQ(label.Top(), 3735);
+  EXPECT_EQ(site.WidthTwips, 3585);
+  EXPECT_EQ(site.HeightTwips, 3735 + label.Height());
+}
+
+}  // namespace
+}  // namespace lumo
