@@ -1,0 +1,85 @@
+#include "qt/QtControlSite.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QKeySequence>
+#include <QShortcut>
+#include <QWidget>
+
+#include "qt/Twips.h"
+#include "qt/WidgetHandles.h"
+
+namespace LumoColorCombo::host {
+namespace {
+
+// Points per logical pixel at the 96 dpi that the fixed 15 twips per pixel stands for.
+constexpr double kPointsPerPixel = 0.75;
+
+}  // namespace
+
+QtControlSite::QtControlSite(QWidget* widget, QObject* parent) : QObject(parent), widget_(widget) {}
+
+QtControlSite::~QtControlSite() { ClearShortcuts(); }
+
+void QtControlSite::PropertyChanged(const std::string& name) {
+  emit propertyChanged(QString::fromStdString(name));
+}
+
+lumo::StdFont QtControlSite::toStdFont(const QFont& font) {
+  lumo::StdFont result;
+  result.Name = font.family().toStdString();
+  result.Size = font.pointSizeF() > 0 ? font.pointSizeF() : font.pixelSize() * kPointsPerPixel;
+  result.Bold = font.bold();
+  result.Italic = font.italic();
+  result.Underline = font.underline();
+  result.Strikethrough = font.strikeOut();
+  return result;
+}
+
+lumo::StdFont QtControlSite::AmbientFont() const {
+  if (!widget_) return toStdFont(QApplication::font());
+  if (const QWidget* form = widget_->parentWidget()) return toStdFont(form->font());
+  return toStdFont(QApplication::font(widget_));
+}
+
+std::string QtControlSite::AmbientDisplayName() const {
+  return widget_ ? widget_->objectName().toStdString() : std::string();
+}
+
+std::int32_t QtControlSite::Width() const { return widget_ ? Twips::fromPixels(widget_->width()) : 0; }
+
+std::int32_t QtControlSite::Height() const { return widget_ ? Twips::fromPixels(widget_->height()) : 0; }
+
+void QtControlSite::Size(std::int32_t width, std::int32_t height) {
+  if (!widget_) return;
+  widget_->setFixedSize(Twips::toPixels(width), Twips::toPixels(height));
+  widget_->updateGeometry();
+}
+
+void QtControlSite::SetEnabled(bool enabled) {
+  if (widget_) widget_->setEnabled(enabled);
+}
+
+void QtControlSite::SetAccessKeys(const std::string& keys) {
+  accessKeys_ = QString::fromStdString(keys);
+  ClearShortcuts();
+  if (!widget_) return;
+  for (const QChar key : accessKeys_) {
+    if (!key.isLetterOrNumber() || key.unicode() > 0x7F) continue;
+    auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(key.toUpper().unicode())), widget_);
+    connect(shortcut, &QShortcut::activated, this, [this, key] {
+      if (widget_) widget_->setFocus(Qt::ShortcutFocusReason);
+      emit accessKeyPressed(QString(key));
+    });
+    shortcuts_.emplace_back(shortcut);
+  }
+}
+
+lumo::WindowHandle QtControlSite::hWnd() const { return WidgetHandles::handleOf(widget_); }
+
+void QtControlSite::ClearShortcuts() {
+  for (const QPointer<QShortcut>& shortcut : shortcuts_) delete shortcut.data();
+  shortcuts_.clear();
+}
+
+}  // namespace LumoColorCombo::host
