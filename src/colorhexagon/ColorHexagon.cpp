@@ -295,8 +295,8 @@ void ColorHexagon::ApplyDefaults() {
 
 void ColorHexagon::LoadHexColors() {
   errors_.Trap(kModule, "LoadHexColors", [&] {
-    for (const HexagonCellSpec& spec : HexagonTable::Cells()) {
-      LiveCells().Add(spec.Name, spec.Color, spec.X, spec.Y, spec.IsLarge);
+    for (const HexagonCellEntry& entry : HexagonTable::Cells()) {
+      LiveCells().Add(entry.Name, entry.Color, entry.X, entry.Y, entry.IsLarge);
     }
   });
 }

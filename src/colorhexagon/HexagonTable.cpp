@@ -49,7 +49,7 @@ constexpr NamedCell kNames[] = {{13, "Blue"},    {28, "Aqua"},    {48, "Lime"}, 
 
 // The grey row under the honeycomb: two staggered rows of small greys between a
 // large white (left) and a large black (right).
-constexpr HexagonCellSpec kGreyRow[] = {
+constexpr HexagonCellEntry kGreyRow[] = {
     {"", FromRgbText(0xFFFFFF), 0, 14, true},    {"", FromRgbText(0xCCCCCC), 3, 14, false},
     {"", FromRgbText(0xC0C0C0), 3, 15, false},   {"", FromRgbText(0x999999), 4, 14, false},
     {"Gray", FromRgbText(0x808080), 4, 15, false}, {"", FromRgbText(0x666666), 5, 14, false},
@@ -63,8 +63,8 @@ const char* NameOf(std::int32_t index) {
   return "";
 }
 
-std::array<HexagonCellSpec, HexagonTable::CellCount> Build() {
-  std::array<HexagonCellSpec, HexagonTable::CellCount> cells{};
+std::array<HexagonCellEntry, HexagonTable::CellCount> Build() {
+  std::array<HexagonCellEntry, HexagonTable::CellCount> cells{};
   std::size_t next = 0;
   std::int32_t row = 0;
   for (const auto& colours : kRows) {
@@ -75,14 +75,14 @@ std::array<HexagonCellSpec, HexagonTable::CellCount> Build() {
     }
     ++row;
   }
-  for (const HexagonCellSpec& grey : kGreyRow) cells[next++] = grey;
+  for (const HexagonCellEntry& grey : kGreyRow) cells[next++] = grey;
   return cells;
 }
 
 }  // namespace
 
-const std::array<HexagonCellSpec, HexagonTable::CellCount>& HexagonTable::Cells() {
-  static const std::array<HexagonCellSpec, CellCount> cells = Build();
+const std::array<HexagonCellEntry, HexagonTable::CellCount>& HexagonTable::Cells() {
+  static const std::array<HexagonCellEntry, CellCount> cells = Build();
   return cells;
 }
 

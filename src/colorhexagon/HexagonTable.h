@@ -8,7 +8,7 @@
 namespace lumo {
 
 // One entry of the honeycomb: what LoadHexColors hands to CColorboxCol::Add.
-struct HexagonCellSpec {
+struct HexagonCellEntry {
   const char* Name;  // "" for the unnamed cells
   OLE_COLOR Color;
   std::int32_t X;  // position within its row, from the left end
@@ -28,7 +28,7 @@ class HexagonTable {
   static constexpr std::int32_t HoneycombCount = 127;
   static constexpr std::int32_t CellCount = 135;
 
-  static const std::array<HexagonCellSpec, CellCount>& Cells();
+  static const std::array<HexagonCellEntry, CellCount>& Cells();
 };
 
 }  // namespace lumo

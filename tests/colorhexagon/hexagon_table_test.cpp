@@ -10,7 +10,7 @@
 namespace lumo {
 namespace {
 
-const HexagonCellSpec& CellAt(std::int32_t index) {
+const HexagonCellEntry& CellAt(std::int32_t index) {
   return HexagonTable::Cells().at(static_cast<std::size_t>(index - 1));
 }
 
