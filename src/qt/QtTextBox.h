@@ -1,11 +1,10 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QObject>
 #include <QPointer>
 
 #include "colormodel/TextBox.h"
-
-class QLineEdit;
 
 namespace LumoColorCombo::host {
 
