@@ -1,0 +1,417 @@
+#include "qt/SurfaceWidget.h"
+
+#include <QCursor>
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "qt/EdgeStrokes.h"
+#include "qt/PixelCanvas.h"
+#include "qt/Rasterizer.h"
+#include "qt/SystemColors.h"
+#include "qt/Twips.h"
+#include "qt/VirtualKeys.h"
+#include "qt/WidgetHandles.h"
+
+namespace LumoColorCombo::host {
+namespace {
+
+// The platform measures fonts at 96 dots per inch, the same screen on which a pixel is
+// 15 twips.
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
+// DrawTextA's format bits beyond the two that Geometry.h names.
+constexpr std::int32_t kFormatRight = 0x2;
+constexpr std::int32_t kFormatVCenter = 0x4;
+constexpr std::int32_t kFormatBottom = 0x8;
+constexpr std::int32_t kFormatWordBreak = 0x10;
+constexpr std::int32_t kFormatSingleLine = 0x20;
+constexpr std::int32_t kFormatNoClip = 0x100;
+constexpr std::int32_t kFormatNoPrefix = 0x800;
+
+bool HasBit(std::int32_t format, std::int32_t bit) { return (format & bit) != 0; }
+
+// Qt's alignment for a DrawTextA format. Like the platform, an ampersand marks the next
+// character as the access key (drawn underlined, "&&" draws one) unless told otherwise;
+// vertical placement applies to single-line text only.
+int TextFlags(std::int32_t format) {
+  int flags = HasBit(format, lumo::textformat::Center) ? Qt::AlignHCenter
+              : HasBit(format, kFormatRight)           ? Qt::AlignRight
+                                                       : Qt::AlignLeft;
+  const bool singleLine = HasBit(format, kFormatSingleLine);
+  flags |= singleLine && HasBit(format, kFormatVCenter)  ? Qt::AlignVCenter
+           : singleLine && HasBit(format, kFormatBottom) ? Qt::AlignBottom
+                                                         : Qt::AlignTop;
+  if (singleLine) flags |= Qt::TextSingleLine;
+  if (HasBit(format, kFormatWordBreak)) flags |= Qt::TextWordWrap;
+  if (!HasBit(format, kFormatNoPrefix)) flags |= Qt::TextShowMnemonic;
+  return flags;
+}
+
+// The core separates lines with CR LF; a lone LF counts too.
+QStringList Lines(const std::string& text) {
+  QString all = QString::fromStdString(text);
+  all.remove(QLatin1Char('\r'));
+  return all.split(QLatin1Char('\n'));
+}
+
+std::int16_t ButtonCode(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton: return lumo::mouse::Left;
+    case Qt::RightButton: return lumo::mouse::Right;
+    case Qt::MiddleButton: return lumo::mouse::Middle;
+    default: return 0;
+  }
+}
+
+std::int16_t ButtonMask(Qt::MouseButtons buttons) {
+  std::int16_t mask = 0;
+  if (buttons.testFlag(Qt::LeftButton)) mask |= lumo::mouse::Left;
+  if (buttons.testFlag(Qt::RightButton)) mask |= lumo::mouse::Right;
+  if (buttons.testFlag(Qt::MiddleButton)) mask |= lumo::mouse::Middle;
+  return mask;
+}
+
+}  // namespace
+
+SurfaceWidget::SurfaceWidget(QWidget* parent) : QWidget(parent), qfont_(qtFont(Font())) {
+  // Every pixel comes from the image; Qt need not clear behind it.
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setFocusPolicy(Qt::StrongFocus);
+  // Pointer moves without a button feed the controls' hot tracking.
+  setMouseTracking(true);
+  announcedRatio_ = devicePixelRatioF();
+  backing();
+}
+
+SurfaceWidget::~SurfaceWidget() = default;
+
+QWidget* SurfaceWidget::widgetFromHandle(lumo::WindowHandle handle) { return WidgetHandles::widgetOf(handle); }
+
+QFont SurfaceWidget::qtFont(const lumo::StdFont& font) {
+  QFont result(QString::fromStdString(font.Name));
+  // A family this system lacks ("MS Sans Serif") falls back to a sans-serif one.
+  result.setStyleHint(QFont::SansSerif);
+  result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.Size * kPixelsPerPoint))));
+  result.setBold(font.Bold);
+  result.setItalic(font.Italic);
+  result.setUnderline(font.Underline);
+  result.setStrikeOut(font.Strikethrough);
+  return result;
+}
+
+QColor SurfaceWidget::resolve(lumo::OLE_COLOR color) const { return SystemColors::resolve(color, palette()); }
+
+QRgb SurfaceWidget::rgb(lumo::OLE_COLOR color) const { return resolve(color).rgb(); }
+
+lumo::WindowHandle SurfaceWidget::hWnd() const { return WidgetHandles::handleOf(this); }
+
+// --- size and backing image ---------------------------------------------------------
+
+void SurfaceWidget::Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
+  setGeometry(Twips::toPixels(left), Twips::toPixels(top), std::max(0, Twips::toPixels(width)),
+              std::max(0, Twips::toPixels(height)));
+}
+
+QSize SurfaceWidget::deviceSize() const {
+  const qreal ratio = devicePixelRatioF();
+  return {static_cast<int>(std::ceil(width() * ratio)), static_cast<int>(std::ceil(height() * ratio))};
+}
+
+QImage& SurfaceWidget::backing() const {
+  if (image_.size() != deviceSize() || image_.devicePixelRatio() != devicePixelRatioF()) rebuildImage();
+  return image_;
+}
+
+void SurfaceWidget::rebuildImage() const {
+  QImage next(deviceSize(), QImage::Format_RGB32);
+  next.setDevicePixelRatio(devicePixelRatioF());
+  next.fill(rgb(BackColor()));
+  // The drawing so far stays where it was, at the top left; a change of ratio scales it.
+  if (!next.isNull() && !image_.isNull()) {
+    QPainter painter(&next);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(QPointF(0, 0), image_);
+  }
+  image_ = std::move(next);
+}
+
+void SurfaceWidget::syncDevicePixelRatio() {
+  if (announcedRatio_ == devicePixelRatioF()) return;
+  announcedRatio_ = devicePixelRatioF();
+  backing();
+  update();
+  emit devicePixelRatioChanged();
+}
+
+void SurfaceWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  backing();
+}
+
+void SurfaceWidget::paintEvent(QPaintEvent* /*event*/) {
+  syncDevicePixelRatio();
+  QPainter painter(this);
+  painter.drawImage(QPointF(0, 0), backing());
+}
+
+void SurfaceWidget::Refresh() { update(); }
+
+void SurfaceWidget::ClearSurface() {
+  backing().fill(rgb(BackColor()));
+  update();
+}
+
+void SurfaceWidget::PaintPicture(const lumo::DrawingSurface& source, std::int32_t x, std::int32_t y) {
+  const auto* surface = dynamic_cast<const SurfaceWidget*>(&source);
+  if (surface == nullptr || backing().isNull()) return;
+  // A copy, so that a surface can paint itself onto itself.
+  const QImage picture = surface->image();
+  QPainter painter(&backing());
+  painter.drawImage(QPointF(x, y), picture);
+  update();
+}
+
+// --- shapes -------------------------------------------------------------------------
+
+void SurfaceWidget::strokePolyline(const std::vector<lumo::Point>& points, QRgb color) {
+  PixelCanvas canvas(backing());
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    canvas.line(points[i], points[(i + 1) % points.size()], color, DrawWidth());
+  }
+}
+
+void SurfaceWidget::Rectangle(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) {
+  if (left > right) std::swap(left, right);
+  if (top > bottom) std::swap(top, bottom);
+  if (left == right || top == bottom) return;
+  if (FillStyle() == lumo::fill::Solid) {
+    PixelCanvas(backing()).fillRect(left + 1, top + 1, right - 1, bottom - 1, rgb(FillColor()));
+  }
+  // The outline runs through the last column and row inside the rectangle; each side
+  // stops short of the next corner, which the next side draws.
+  strokePolyline({{left, top}, {right - 1, top}, {right - 1, bottom - 1}, {left, bottom - 1}}, rgb(ForeColor()));
+  update();
+}
+
+void SurfaceWidget::Polygon(const std::vector<lumo::Point>& points) {
+  if (points.size() < 2) return;
+  if (FillStyle() == lumo::fill::Solid) {
+    PixelCanvas canvas(backing());
+    const QRgb fill = rgb(FillColor());
+    for (const PixelRun& run : Rasterizer::polygonInterior(points, 0, height())) {
+      canvas.fillRect(run.First, run.Y, run.Last, run.Y + 1, fill);
+    }
+  }
+  // Each side leaves out its end point, which is the start of the next side, so every
+  // vertex is drawn exactly once.
+  strokePolyline(points, rgb(ForeColor()));
+  update();
+}
+
+void SurfaceWidget::DrawLine(lumo::Point from, lumo::Point to) {
+  PixelCanvas(backing()).line(from, to, rgb(ForeColor()), DrawWidth());
+  update();
+}
+
+void SurfaceWidget::DrawEdge(const lumo::Rect& rect, std::int32_t edgeKind, std::int32_t flags) {
+  PixelCanvas canvas(backing());
+  for (const EdgeStroke& stroke : EdgeStrokes::of(rect, edgeKind, flags)) {
+    canvas.line(stroke.From, stroke.To, SystemColors::systemColor(stroke.SystemColorIndex, palette()).rgb(), 1);
+  }
+  update();
+}
+
+void SurfaceWidget::DrawFocusRect(const lumo::Rect& rect) {
+  // Four one-pixel bands inverted through a checkerboard, as the platform's pattern
+  // brush does: top and bottom rows full width, the side columns between them.
+  const auto [left, top, right, bottom] = rect;
+  PixelCanvas canvas(backing());
+  canvas.invertCheckerboard(left, top, right, top + 1);
+  canvas.invertCheckerboard(left, bottom - 1, right, bottom);
+  canvas.invertCheckerboard(left, top + 1, left + 1, bottom - 1);
+  canvas.invertCheckerboard(right - 1, top + 1, right, bottom - 1);
+  update();
+}
+
+// --- text ---------------------------------------------------------------------------
+
+void SurfaceWidget::FontChanged() { qfont_ = qtFont(Font()); }
+
+double SurfaceWidget::TextWidth(const std::string& text) const {
+  const QFontMetricsF metrics(qfont_);
+  double widest = 0;
+  for (const QString& line : Lines(text)) widest = std::max(widest, metrics.horizontalAdvance(line));
+  return widest;
+}
+
+double SurfaceWidget::TextHeight(const std::string& text) const {
+  return QFontMetricsF(qfont_).lineSpacing() * static_cast<double>(Lines(text).size());
+}
+
+void SurfaceWidget::DrawTextA(const std::string& text, const lumo::Rect& rect, std::int32_t format) {
+  const QRectF box(rect.Left, rect.Top, rect.Right - rect.Left, rect.Bottom - rect.Top);
+  const bool clip = !HasBit(format, kFormatNoClip);
+  if (backing().isNull() || (clip && (box.width() <= 0 || box.height() <= 0))) return;
+  QPainter painter(&backing());
+  if (clip) painter.setClipRect(box);
+  painter.setFont(qfont_);
+  painter.setPen(resolve(ForeColor()));
+  painter.drawText(box, TextFlags(format), QString::fromStdString(text));
+  update();
+}
+
+void SurfaceWidget::DrawPrintedText(double x, double y, const std::string& text) {
+  if (backing().isNull()) return;
+  QPainter painter(&backing());
+  painter.setFont(qfont_);
+  painter.setPen(resolve(ForeColor()));
+  const QFontMetricsF metrics(qfont_);
+  double baseline = y + metrics.ascent();
+  for (const QString& line : Lines(text)) {
+    painter.drawText(QPointF(x, baseline), line);
+    baseline += metrics.lineSpacing();
+  }
+  update();
+}
+
+void SurfaceWidget::ToolTipChanged() {
+  const QString tip = QString::fromStdString(ToolTipText());
+  setToolTip(tip);
+  const QPoint pointer = QCursor::pos();
+  if (!isVisible() || !rect().contains(mapFromGlobal(pointer))) return;
+  // Assigned while the pointer rests here: show it now, even if the text is unchanged
+  // and its earlier showing has timed out.
+  if (tip.isEmpty()) {
+    QToolTip::hideText();
+  } else {
+    QToolTip::showText(pointer, tip, this);
+  }
+}
+
+// --- input --------------------------------------------------------------------------
+
+void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
+  // The double-click event that follows stands for this press.
+  if (event->flags().testFlag(Qt::MouseEventCreatedDoubleClick)) return;
+  const std::int16_t button = ButtonCode(event->button());
+  if (Listener() == nullptr || button == 0) return;
+  Listener()->MouseDown(button, VirtualKeys::shiftState(event->modifiers()), event->position().x(),
+                        event->position().y());
+}
+
+void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (Listener() == nullptr) return;
+  Listener()->MouseMove(ButtonMask(event->buttons()), VirtualKeys::shiftState(event->modifiers()),
+                        event->position().x(), event->position().y());
+}
+
+void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const std::int16_t button = ButtonCode(event->button());
+  if (Listener() == nullptr || button == 0) return;
+  Listener()->MouseUp(button, VirtualKeys::shiftState(event->modifiers()), event->position().x(),
+                      event->position().y());
+}
+
+void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  // Not QWidget's default, which would turn it into a second press.
+  if (Listener() == nullptr || ButtonCode(event->button()) == 0) return;
+  Listener()->DblClick();
+}
+
+bool SurfaceWidget::deliverKey(QKeyEvent* event) {
+  std::int16_t keyCode = VirtualKeys::keyCode(*event);
+  if (Listener() == nullptr || keyCode == 0) return false;
+  const QPointer<SurfaceWidget> self(this);
+  Listener()->KeyDown(keyCode, VirtualKeys::shiftState(event->modifiers()));
+  // The handler may have closed the window this surface lives in.
+  if (self) update();
+  return keyCode == 0;
+}
+
+void SurfaceWidget::keyPressEvent(QKeyEvent* event) {
+  // A key the handler swallowed (set to 0) ends here; any other goes on to the parent,
+  // as Qt passes on an ignored key, so the owning control can see it too.
+  if (deliverKey(event)) {
+    event->accept();
+  } else {
+    event->ignore();
+  }
+}
+
+bool SurfaceWidget::isNavigationKey(int qtKey) {
+  switch (qtKey) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool SurfaceWidget::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::ShortcutOverride: {
+      // The keys the controls move and choose with reach the surface before any
+      // application shortcut on the same key.
+      auto* key = static_cast<QKeyEvent*>(event);
+      const bool plain = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+      if (Listener() != nullptr && plain && isNavigationKey(key->key())) {
+        event->accept();
+        return true;
+      }
+      break;
+    }
+    case QEvent::KeyPress: {
+      // Qt would spend Tab on moving the focus before keyPressEvent sees it; the
+      // handler sees it first and may keep the focus here by swallowing it.
+      auto* key = static_cast<QKeyEvent*>(event);
+      const bool tab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+      if (tab && !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+        const QPointer<SurfaceWidget> self(this);
+        if (!deliverKey(key) && self) focusNextPrevChild(key->key() == Qt::Key_Tab);
+        return true;
+      }
+      break;
+    }
+    case QEvent::ScreenChangeInternal:
+      syncDevicePixelRatio();
+      break;
+    default:
+      break;
+  }
+  return QWidget::event(event);
+}
+
+void SurfaceWidget::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  if (Listener() != nullptr) Listener()->GotFocus();
+}
+
+void SurfaceWidget::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  if (Listener() != nullptr) Listener()->LostFocus();
+}
+
+void SurfaceWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) emit paletteChanged();
+}
+
+}  // namespace LumoColorCombo::host

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <QFont>
+#include <QImage>
+#include <QWidget>
+
+#include "colormodel/DrawingSurface.h"
+
+namespace LumoColorCombo::host {
+
+// `picScreen` on Qt: a child widget that keeps what is drawn in a persistent backing
+// image and shows it in paintEvent.
+//
+// Coordinates are logical pixels. The image carries the widget's device pixel ratio, so
+// at 1.5x or 2x each logical pixel is a block of device pixels and the platform's pixel
+// rules (right and bottom edges left out, line end points not drawn) hold per logical
+// pixel while everything stays sharp; text is drawn at the full device resolution.
+//
+// Colours are resolved when drawn, system colours through this widget's palette; the
+// image holds the result. When the palette or the pixel ratio changes, the widget
+// signals it so that the owning control can draw itself again.
+//
+// Input goes to the listener: mouse positions as logical pixels (outside the widget
+// while the mouse is grabbed), buttons 1 left, 2 right, 4 middle, shift mask 1 Shift,
+// 2 Ctrl, 4 Alt, keys as virtual-key codes. A double click arrives, as on the platform,
+// as press, release, DblClick, release: Qt turns the second press into the double-click
+// event, which raises DblClick and no second MouseDown.
+class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
+  Q_OBJECT
+
+ public:
+  explicit SurfaceWidget(QWidget* parent = nullptr);
+  ~SurfaceWidget() override;
+
+  // What has been drawn, at the device resolution (its devicePixelRatio is the
+  // widget's). Pixel (x, y) of a 1x image is logical pixel (x, y).
+  const QImage& image() const { return backing(); }
+  // The widget behind a handle from hWnd(), or null once it is gone.
+  static QWidget* widgetFromHandle(lumo::WindowHandle handle);
+  // The QFont a font description stands for: the size in points at the platform's
+  // 96 dots per inch, as whole pixels; an absent family is left to Qt's substitution.
+  static QFont qtFont(const lumo::StdFont& font);
+  // A colour value as this surface draws it now.
+  QColor resolve(lumo::OLE_COLOR color) const;
+
+  // --- lumo::DrawingSurface -------------------------------------------------------
+  lumo::WindowHandle hWnd() const override;
+  std::int32_t ScaleWidth() const override { return width(); }
+  std::int32_t ScaleHeight() const override { return height(); }
+  void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) override;
+  double TextWidth(const std::string& text) const override;
+  double TextHeight(const std::string& text) const override;
+  void PaintPicture(const lumo::DrawingSurface& source, std::int32_t x, std::int32_t y) override;
+  void Refresh() override;
+  void Rectangle(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) override;
+  void Polygon(const std::vector<lumo::Point>& points) override;
+  void DrawEdge(const lumo::Rect& rect, std::int32_t edgeKind, std::int32_t flags) override;
+  void DrawFocusRect(const lumo::Rect& rect) override;
+  void DrawTextA(const std::string& text, const lumo::Rect& rect, std::int32_t format) override;
+
+ signals:
+  // The palette changed: system colours already drawn are stale; draw again.
+  void paletteChanged();
+  // The device pixel ratio changed (the window moved to another screen): the old
+  // drawing was scaled over; draw again for sharp output.
+  void devicePixelRatioChanged();
+
+ protected:
+  // --- lumo::DrawingSurface hooks ---
+  void ClearSurface() override;
+  void DrawLine(lumo::Point from, lumo::Point to) override;
+  void DrawPrintedText(double x, double y, const std::string& text) override;
+  void FontChanged() override;
+  void ToolTipChanged() override;
+
+  // --- QWidget ---
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  QRgb rgb(lumo::OLE_COLOR color) const;
+  // The image, first brought to the widget's current size and pixel ratio. Qt sends no
+  // resize event to a hidden widget, yet the controls draw before they are shown.
+  QImage& backing() const;
+  QSize deviceSize() const;
+  void rebuildImage() const;
+  void syncDevicePixelRatio();
+  void strokePolyline(const std::vector<lumo::Point>& points, QRgb color);
+  bool deliverKey(QKeyEvent* event);
+  static bool isNavigationKey(int qtKey);
+
+  mutable QImage image_;
+  qreal announcedRatio_ = 1.0;
+  QFont qfont_;
+};
+
+}  // namespace LumoColorCombo::host

@@ -1,0 +1,392 @@
+// Pixel tests of the Qt drawing surface: each drawing call against the platform's
+// pixel rules, read back from the backing image, plus the input it forwards.
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+#include "qt/SurfaceWidget.h"
+
+using LumoColorCombo::host::SurfaceWidget;
+using lumo::Point;
+
+namespace {
+
+constexpr lumo::OLE_COLOR kBack = lumo::RGB(255, 255, 255);
+constexpr lumo::OLE_COLOR kPen = lumo::RGB(0, 0, 200);
+constexpr lumo::OLE_COLOR kFill = lumo::RGB(0, 180, 0);
+
+// Records what the surface forwards, one line per event.
+class Recorder : public lumo::SurfaceEvents {
+ public:
+  QStringList events;
+  bool swallowKeys = false;
+  void MouseDown(std::int16_t b, std::int16_t s, double x, double y) override { add("MouseDown", b, s, x, y); }
+  void MouseMove(std::int16_t b, std::int16_t s, double x, double y) override { add("MouseMove", b, s, x, y); }
+  void MouseUp(std::int16_t b, std::int16_t s, double x, double y) override { add("MouseUp", b, s, x, y); }
+  void DblClick() override { events << "DblClick"; }
+  void KeyDown(std::int16_t& keyCode, std::int16_t shift) override {
+    events << QString("KeyDown %1 %2").arg(keyCode).arg(shift);
+    if (swallowKeys) keyCode = 0;
+  }
+  void GotFocus() override { events << "GotFocus"; }
+  void LostFocus() override { events << "LostFocus"; }
+
+ private:
+  void add(const char* name, int button, int shift, double x, double y) {
+    events << QString("%1 %2 %3 %4 %5").arg(name).arg(button).arg(shift).arg(x).arg(y);
+  }
+};
+
+QColor Color(lumo::OLE_COLOR value) { return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF); }
+
+bool FilledWith(const SurfaceWidget& surface, const QColor& color) {
+  QImage filled(surface.image().size(), QImage::Format_RGB32);
+  filled.fill(color);
+  return surface.image() == filled;
+}
+
+QColor At(const SurfaceWidget& surface, int x, int y) { return surface.image().pixelColor(x, y); }
+
+// Pixels that differ from the background, as the bounding box of the ink.
+QRect Ink(const SurfaceWidget& surface) {
+  QRect box;
+  for (int y = 0; y < surface.ScaleHeight(); ++y)
+    for (int x = 0; x < surface.ScaleWidth(); ++x)
+      if (At(surface, x, y) != Color(kBack)) box |= QRect(x, y, 1, 1);
+  return box;
+}
+
+std::set<std::pair<int, int>> Lit(const SurfaceWidget& surface) {
+  std::set<std::pair<int, int>> lit;
+  for (int y = 0; y < surface.ScaleHeight(); ++y)
+    for (int x = 0; x < surface.ScaleWidth(); ++x)
+      if (At(surface, x, y) == Color(kPen)) lit.insert({x, y});
+  return lit;
+}
+
+}  // namespace
+
+class SurfaceTest : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<SurfaceWidget> surface;
+
+ private slots:
+  void init() {
+    surface = std::make_unique<SurfaceWidget>();
+    surface->resize(120, 40);
+    surface->SetBackColor(kBack);
+    surface->SetForeColor(kPen);
+    surface->SetFillColor(kFill);
+    QCOMPARE(surface->image().devicePixelRatio(), 1.0);
+  }
+  void cleanup() { surface.reset(); }
+
+  void rectangleLeavesOutRightAndBottom_data() {
+    QTest::addColumn<QRect>("corners");  // left, top, right, bottom in x, y, width, height
+    QTest::addColumn<int>("fillStyle");
+    QTest::newRow("solid") << QRect(10, 5, 20, 15) << lumo::fill::Solid;
+    QTest::newRow("transparent") << QRect(10, 5, 20, 15) << lumo::fill::Transparent;
+    QTest::newRow("two by two") << QRect(3, 3, 5, 5) << lumo::fill::Solid;
+    QTest::newRow("corners swapped") << QRect(20, 15, 10, 5) << lumo::fill::Solid;
+  }
+  void rectangleLeavesOutRightAndBottom() {
+    QFETCH(QRect, corners);
+    QFETCH(int, fillStyle);
+    surface->SetFillStyle(fillStyle);
+    surface->Rectangle(corners.x(), corners.y(), corners.width(), corners.height());
+    const int l = std::min(corners.x(), corners.width()), r = std::max(corners.x(), corners.width());
+    const int t = std::min(corners.y(), corners.height()), b = std::max(corners.y(), corners.height());
+    for (int y = t - 1; y <= b; ++y) {
+      for (int x = l - 1; x <= r; ++x) {
+        const bool inside = x >= l && x < r && y >= t && y < b;
+        const bool ring = inside && (x == l || x == r - 1 || y == t || y == b - 1);
+        const QColor expected = ring ? Color(kPen) : inside && fillStyle == 0 ? Color(kFill) : Color(kBack);
+        QVERIFY2(At(*surface, x, y) == expected, qPrintable(QString("pixel %1,%2").arg(x).arg(y)));
+      }
+    }
+  }
+
+  void lineToLeavesOutEndPoint_data() {
+    QTest::addColumn<QPoint>("from");
+    QTest::addColumn<QPoint>("to");
+    QTest::newRow("right") << QPoint(2, 3) << QPoint(12, 3);
+    QTest::newRow("left") << QPoint(12, 3) << QPoint(2, 3);
+    QTest::newRow("down") << QPoint(5, 1) << QPoint(5, 20);
+    QTest::newRow("up") << QPoint(5, 20) << QPoint(5, 1);
+    QTest::newRow("diagonal") << QPoint(1, 1) << QPoint(11, 11);
+    QTest::newRow("shallow") << QPoint(2, 3) << QPoint(30, 10);
+    QTest::newRow("steep back") << QPoint(9, 30) << QPoint(3, 2);
+  }
+  void lineToLeavesOutEndPoint() {
+    QFETCH(QPoint, from);
+    QFETCH(QPoint, to);
+    surface->MoveToEx(from.x(), from.y());
+    surface->LineTo(to.x(), to.y());
+    const auto lit = Lit(*surface);
+    QVERIFY(lit.count({from.x(), from.y()}));
+    QVERIFY(!lit.count({to.x(), to.y()}));
+    const QPoint d = to - from;
+    QCOMPARE(int(lit.size()), std::max(std::abs(d.x()), std::abs(d.y())));
+    for (const auto& [x, y] : lit) {
+      // Each pixel is the nearest to the ideal line along the minor axis.
+      const bool xMajor = std::abs(d.x()) > std::abs(d.y());
+      const double along = xMajor ? double(x - from.x()) / d.x() : double(y - from.y()) / d.y();
+      const double offset = xMajor ? y - (from.y() + along * d.y()) : x - (from.x() + along * d.x());
+      QVERIFY(std::abs(offset) <= 0.5);
+    }
+  }
+
+  void lineCoversSamePixelsBothWays_data() {
+    QTest::addColumn<QPoint>("a");
+    QTest::addColumn<QPoint>("b");
+    QTest::newRow("ties every other step") << QPoint(0, 0) << QPoint(8, 4);
+    QTest::newRow("steep ties") << QPoint(3, 0) << QPoint(7, 16);
+  }
+  void lineCoversSamePixelsBothWays() {
+    QFETCH(QPoint, a);
+    QFETCH(QPoint, b);
+    surface->MoveToEx(a.x(), a.y());
+    surface->LineTo(b.x(), b.y());
+    auto forward = Lit(*surface);
+    surface->Cls();
+    surface->MoveToEx(b.x(), b.y());
+    surface->LineTo(a.x(), a.y());
+    auto backward = Lit(*surface);
+    forward.insert({b.x(), b.y()});
+    backward.insert({a.x(), a.y()});
+    QVERIFY(forward == backward);
+  }
+
+  void polygonFillsAndOutlinesTheHexagon() {
+    const std::vector<Point> hexagon{{54, 4}, {63, 0}, {71, 4}, {71, 14}, {64, 18}, {63, 18}, {54, 14}};
+    surface->SetFillStyle(lumo::fill::Solid);
+    surface->Polygon(hexagon);
+    for (const Point& vertex : hexagon) QCOMPARE(At(*surface, vertex.X, vertex.Y), Color(kPen));
+    QCOMPARE(Ink(*surface), QRect(QPoint(54, 0), QPoint(71, 18)));
+    QCOMPARE(At(*surface, 62, 9), Color(kFill));
+    // The fill stays inside the outline on every row.
+    for (int y = 0; y <= 18; ++y) {
+      int first = 54, last = 71;
+      while (At(*surface, first, y) == Color(kBack)) ++first;
+      while (At(*surface, last, y) == Color(kBack)) --last;
+      QCOMPARE(At(*surface, first, y), Color(kPen));
+      QCOMPARE(At(*surface, last, y), Color(kPen));
+    }
+
+    // The selection mark: a two-pixel outline inside the hexagon, interior untouched.
+    const lumo::OLE_COLOR mark = lumo::RGB(255, 0, 0);
+    surface->SetForeColor(mark);
+    surface->SetFillStyle(lumo::fill::Transparent);
+    surface->SetDrawWidth(2);
+    surface->Polygon({{57, 4}, {63, 2}, {69, 4}, {69, 14}, {64, 16}, {63, 16}, {57, 14}});
+    QCOMPARE(Ink(*surface), QRect(QPoint(54, 0), QPoint(71, 18)));
+    for (int x : {56, 57, 68, 69}) QCOMPARE(At(*surface, x, 9), Color(mark));
+    for (int x : {55, 58, 67, 70}) QVERIFY(At(*surface, x, 9) != Color(mark));
+    QCOMPARE(At(*surface, 62, 9), Color(kFill));
+  }
+
+  void drawEdgeRingsUseThePaletteBevel_data() {
+    QTest::addColumn<int>("edge");
+    QTest::addColumn<QList<QColor>>("rings");  // outer top-left, outer bottom-right, inner ...
+    const QColor light(Qt::yellow), shadow(Qt::black), highlight(Qt::white), dark(Qt::darkGray);
+    const QColor none;
+    QTest::newRow("sunken outer") << 2 << QList<QColor>{dark, highlight, none, none};
+    QTest::newRow("raised inner") << 4 << QList<QColor>{highlight, dark, none, none};
+    QTest::newRow("raised") << 5 << QList<QColor>{light, shadow, highlight, dark};
+    QTest::newRow("sunken") << 10 << QList<QColor>{dark, highlight, shadow, light};
+  }
+  void drawEdgeRingsUseThePaletteBevel() {
+    QFETCH(int, edge);
+    QFETCH(QList<QColor>, rings);
+    QPalette palette = surface->palette();
+    palette.setColor(QPalette::Midlight, Qt::yellow);  // 3-D light
+    palette.setColor(QPalette::Shadow, Qt::black);     // 3-D dark shadow
+    palette.setColor(QPalette::Light, Qt::white);      // button highlight
+    palette.setColor(QPalette::Dark, Qt::darkGray);    // button shadow
+    surface->setPalette(palette);
+    surface->SetBackColor(lumo::RGB(0, 0, 255));
+    surface->DrawEdge({10, 10, 30, 25}, edge, lumo::edge::AllSides);
+    const auto expect = [&](int x, int y, QColor color) {
+      const QColor want = color.isValid() ? color : QColor(Qt::blue);
+      QVERIFY2(At(*surface, x, y) == want, qPrintable(QString("pixel %1,%2").arg(x).arg(y)));
+    };
+    for (auto [x, y] : {std::pair{10, 10}, {20, 10}, {10, 17}, {28, 10}}) expect(x, y, rings[0]);
+    for (auto [x, y] : {std::pair{29, 10}, {29, 24}, {10, 24}, {20, 24}}) expect(x, y, rings[1]);
+    for (auto [x, y] : {std::pair{11, 11}, {20, 11}, {11, 17}}) expect(x, y, rings[2]);
+    for (auto [x, y] : {std::pair{28, 11}, {28, 23}, {11, 23}, {20, 23}}) expect(x, y, rings[3]);
+    for (auto [x, y] : {std::pair{12, 12}, {30, 17}, {20, 25}, {9, 17}, {20, 9}}) expect(x, y, QColor());
+  }
+
+  void focusRectIsDottedAndUndoesItself_data() {
+    QTest::addColumn<QRect>("corners");
+    QTest::newRow("even origin") << QRect(4, 4, 20, 12);
+    QTest::newRow("odd origin") << QRect(5, 4, 21, 13);
+  }
+  void focusRectIsDottedAndUndoesItself() {
+    QFETCH(QRect, corners);
+    const lumo::Rect rect{corners.x(), corners.y(), corners.width(), corners.height()};
+    surface->SetFillStyle(lumo::fill::Solid);
+    surface->Rectangle(0, 0, 40, 20);
+    const QImage before = surface->image().copy();
+    surface->DrawFocusRect(rect);
+    for (int x = rect.Left; x < rect.Right; ++x) {
+      const bool dot = (x + rect.Top) % 2 == 0;
+      QCOMPARE(At(*surface, x, rect.Top) != before.pixelColor(x, rect.Top), dot);
+    }
+    QCOMPARE(At(*surface, rect.Left + 3, rect.Top + 3), before.pixelColor(rect.Left + 3, rect.Top + 3));
+    QCOMPARE(At(*surface, rect.Right, rect.Top), before.pixelColor(rect.Right, rect.Top));
+    surface->DrawFocusRect(rect);
+    QCOMPARE(surface->image(), before);
+  }
+
+  void drawTextAlignsAndClips_data() {
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QRect>("corners");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("left") << 0 << QRect(10, 5, 110, 35) << "Automatic";
+    QTest::newRow("centred") << 1 << QRect(10, 5, 110, 35) << "Automatic";
+    QTest::newRow("clipped") << 1 << QRect(40, 8, 60, 14) << "WWWWWWWWWWWWWWWW";
+  }
+  void drawTextAlignsAndClips() {
+    QFETCH(int, format);
+    QFETCH(QRect, corners);
+    QFETCH(QString, text);
+    surface->DrawTextA(text.toStdString(), {corners.x(), corners.y(), corners.width(), corners.height()}, format);
+    const QRect ink = Ink(*surface);
+    const QRect box(QPoint(corners.x(), corners.y()), QPoint(corners.width() - 1, corners.height() - 1));
+    QVERIFY(!ink.isEmpty());
+    QVERIFY(box.contains(ink));
+    QVERIFY(ink.top() < box.top() + surface->TextHeight("A") / 2);  // the top line
+    if (format == 0) QVERIFY(ink.left() <= box.left() + 2);
+    if (format == 1) QVERIFY(std::abs((ink.left() + ink.right()) - (box.left() + box.right())) <= 2);
+  }
+
+  void clsAndButtonFaceFollowThePalette() {
+    QSignalSpy changed(surface.get(), &SurfaceWidget::paletteChanged);
+    surface->SetBackColor(lumo::sys::ButtonFace);
+    QVERIFY(FilledWith(*surface, surface->palette().color(QPalette::Button)));
+    QPalette dark = surface->palette();
+    dark.setColor(QPalette::Button, QColor(0x20, 0x20, 0x20));
+    surface->setPalette(dark);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(surface->resolve(lumo::sys::ButtonFace), QColor(0x20, 0x20, 0x20));
+    surface->Rectangle(2, 2, 30, 30);
+    surface->SetCurrentX(7);
+    surface->Cls();
+    QCOMPARE(surface->CurrentX(), 0.0);
+    QVERIFY(FilledWith(*surface, QColor(0x20, 0x20, 0x20)));
+  }
+
+  void moveConvertsTwipsAndKeepsTheDrawing() {
+    QWidget parent;
+    auto* child = new SurfaceWidget(&parent);
+    child->SetBackColor(kBack);
+    child->SetForeColor(kPen);
+    child->Rectangle(0, 0, 5, 5);
+    child->Move(150, 307, 3000, 1208);  // 20.47 and 80.53 pixels
+    QCOMPARE(child->geometry(), QRect(10, 20, 200, 81));
+    QCOMPARE(child->ScaleWidth(), 200);
+    QCOMPARE(child->Width(), 3000);
+    QCOMPARE(child->image().size(), QSize(200, 81));
+    QCOMPARE(Ink(*child), QRect(0, 0, 5, 5));
+  }
+
+  void keysArriveAsVirtualKeyCodes_data() {
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("expected");
+    const int none = Qt::NoModifier;
+    QTest::newRow("Return") << int(Qt::Key_Return) << none << "KeyDown 13 0";
+    QTest::newRow("Escape") << int(Qt::Key_Escape) << none << "KeyDown 27 0";
+    QTest::newRow("PageDown") << int(Qt::Key_PageDown) << none << "KeyDown 34 0";
+    QTest::newRow("Left") << int(Qt::Key_Left) << none << "KeyDown 37 0";
+    QTest::newRow("Down") << int(Qt::Key_Down) << none << "KeyDown 40 0";
+    QTest::newRow("7") << int(Qt::Key_7) << none << "KeyDown 55 0";
+    QTest::newRow("Q") << int(Qt::Key_Q) << none << "KeyDown 81 0";
+    QTest::newRow("F4") << int(Qt::Key_F4) << none << "KeyDown 115 0";
+    QTest::newRow("Tab") << int(Qt::Key_Tab) << none << "KeyDown 9 0";
+    QTest::newRow("Shift+Right") << int(Qt::Key_Right) << int(Qt::ShiftModifier) << "KeyDown 39 1";
+    QTest::newRow("Ctrl+Alt+Home") << int(Qt::Key_Home) << int(Qt::ControlModifier | Qt::AltModifier)
+                                   << "KeyDown 36 6";
+  }
+  void keysArriveAsVirtualKeyCodes() {
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QString, expected);
+    Recorder recorder;
+    surface->SetListener(&recorder);
+    QTest::keyClick(surface.get(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    // A modifier is a key of its own and comes first (Shift 16, Ctrl 17, Alt 18).
+    QCOMPARE(recorder.events.size(), 1 + qPopulationCount(uint(modifiers)));
+    QCOMPARE(recorder.events.last(), expected);
+  }
+
+  void tabMovesFocusUnlessSwallowed_data() {
+    QTest::addColumn<bool>("swallow");
+    QTest::newRow("passed on") << false;
+    QTest::newRow("swallowed") << true;
+  }
+  void tabMovesFocusUnlessSwallowed() {
+    QFETCH(bool, swallow);
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* child = new SurfaceWidget;
+    layout->addWidget(child);
+    layout->addWidget(new QLineEdit);
+    Recorder recorder;
+    recorder.swallowKeys = swallow;
+    child->SetListener(&recorder);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    child->setFocus();
+    QTest::keyClick(child, Qt::Key_Tab);
+    QCOMPARE(child->hasFocus(), swallow);
+    const QStringList expected = swallow ? QStringList{"GotFocus", "KeyDown 9 0"}
+                                         : QStringList{"GotFocus", "KeyDown 9 0", "LostFocus"};
+    QCOMPARE(recorder.events, expected);
+    child->SetListener(nullptr);
+  }
+
+  void mouseIsForwardedWithButtonAndShift_data() {
+    QTest::addColumn<int>("button");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("codes");
+    QTest::newRow("left") << int(Qt::LeftButton) << int(Qt::NoModifier) << "1 0";
+    QTest::newRow("right with Ctrl") << int(Qt::RightButton) << int(Qt::ControlModifier) << "2 2";
+    QTest::newRow("middle with Alt") << int(Qt::MiddleButton) << int(Qt::AltModifier) << "4 4";
+  }
+  void mouseIsForwardedWithButtonAndShift() {
+    QFETCH(int, button);
+    QFETCH(int, modifiers);
+    QFETCH(QString, codes);
+    Recorder recorder;
+    surface->SetListener(&recorder);
+    const auto qtButton = Qt::MouseButton(button);
+    const auto qtModifiers = Qt::KeyboardModifiers(modifiers);
+    QTest::mousePress(surface.get(), qtButton, qtModifiers, QPoint(13, 7));
+    QTest::mouseMove(surface.get(), QPoint(20, 9));
+    QTest::mouseRelease(surface.get(), qtButton, qtModifiers, QPoint(20, 9));
+    QCOMPARE(recorder.events, (QStringList{"MouseDown " + codes + " 13 7", "MouseMove " + codes.left(1) + " 0 20 9",
+                                           "MouseUp " + codes + " 20 9"}));
+  }
+
+  void doubleClickGivesDblClickInsteadOfSecondPress() {
+    Recorder recorder;
+    surface->SetListener(&recorder);
+    QTest::mouseClick(surface.get(), Qt::LeftButton, {}, QPoint(4, 4));
+    QTest::mouseDClick(surface.get(), Qt::LeftButton, {}, QPoint(4, 4));
+    QTest::mouseRelease(surface.get(), Qt::LeftButton, {}, QPoint(4, 4));
+    QCOMPARE(recorder.events, (QStringList{"MouseDown 1 0 4 4", "MouseUp 1 0 4 4", "DblClick", "MouseUp 1 0 4 4"}));
+  }
+};
+
+QTEST_MAIN(SurfaceTest)
+#include "surface_test.moc"
