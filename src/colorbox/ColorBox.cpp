@@ -129,19 +129,13 @@ void ColorBox::SetAllowMoreColors(bool value) {
 
 // --- life cycle ----------------------------------------------------------------------------
 
-void ColorBox::UserControl_Initialize() {
-  Trap("UserControl_Initialize", [&] {
-    if (!m_Colors) m_Colors = std::make_unique<CColorboxCol>(runtime_.Errors());
-    m_FocusZone = focuszone::Automatic;
-    m_NoStyle = -1;
-    SetInitialState();
-    Refresh();
-  });
-}
+void ColorBox::UserControl_Initialize() { StartAfresh("UserControl_Initialize"); }
 
-void ColorBox::UserControl_InitProperties() {
-  // A control newly placed by the host starts exactly like a newly created one.
-  Trap("UserControl_InitProperties", [&] {
+// A control newly placed by the host starts exactly like a newly created one.
+void ColorBox::UserControl_InitProperties() { StartAfresh("UserControl_InitProperties"); }
+
+void ColorBox::StartAfresh(std::string_view label) {
+  Trap(label, [&] {
     if (!m_Colors) m_Colors = std::make_unique<CColorboxCol>(runtime_.Errors());
     m_FocusZone = focuszone::Automatic;
     m_NoStyle = -1;
@@ -523,6 +517,8 @@ void ColorBox::MouseUp(std::int16_t button, std::int16_t /*shift*/, double x, do
 }
 
 void ColorBox::ChooseCell(const CellPtr& cell) {
+  // Through the properties, as a host would set them: the grid repaints with its new
+  // selection and the host hears that Color changed, before Click reports the choice.
   SetIsAutomatic(false);
   SetColor(cell->Color());
   m_ColorName = cell->Name();

@@ -120,6 +120,7 @@ class ColorBox : public SurfaceEvents {
   template <class Raise>
   void RaiseGuarded(Raise&& raise);
 
+  void StartAfresh(std::string_view label);
   void SetInitialState();
   CColorboxCol& Colors() const;
 
@@ -151,7 +152,7 @@ class ColorBox : public SurfaceEvents {
   bool OutsideSurface(double x, double y) const;
 
   Runtime& runtime_;
-  DrawingSurface& picScreen;
+  DrawingSurface& picScreen;  // the drawing surface keeps its platform name
   ControlSite& site_;
   ColorBoxEvents& events_;
   ColorBoxPainter painter_;
