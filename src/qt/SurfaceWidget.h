@@ -52,6 +52,9 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   double TextHeight(const std::string& text) const override;
   void PaintPicture(const lumo::DrawingSurface& source, std::int32_t x, std::int32_t y) override;
   void Refresh() override;
+  // Shapes: the outline follows the one-pixel path exactly; a wider pen (DrawWidth > 1)
+  // paints a square footprint centred on each pixel of that path, its even-width extra
+  // pixel above and left. Fill styles other than solid (0) leave the inside alone.
   void Rectangle(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) override;
   void Polygon(const std::vector<lumo::Point>& points) override;
   void DrawEdge(const lumo::Rect& rect, std::int32_t edgeKind, std::int32_t flags) override;
