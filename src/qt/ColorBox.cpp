@@ -1,0 +1,121 @@
+#include "qt/ColorBox.h"
+
+#include <optional>
+
+#include <QShowEvent>
+
+#include "colorbox/ColorBox.h"
+#include "colorbox/ColorBoxEvents.h"
+#include "qt/QtControlSite.h"
+#include "qt/QtHost.h"
+#include "qt/QtPropertyBag.h"
+#include "qt/SurfaceWidget.h"
+
+namespace LumoColorCombo {
+namespace {
+
+QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+// Turns the core control's events into the widget's signals. Click's colour and
+// flag go out by reference, so a directly connected slot sees (and may change) them.
+class BoxSignals : public lumo::ColorBoxEvents {
+ public:
+  explicit BoxSignals(ColorBox* widget) : widget_(widget) {}
+
+  void OverColor(lumo::OLE_COLOR lColor, bool bOverAutomatic) override {
+    emit widget_->OverColor(lColor, bOverAutomatic);
+  }
+  void Click(lumo::OLE_COLOR& lColor, const std::string& sColorName, bool& bIsAutomatic) override {
+    emit widget_->Click(lColor, Text(sColorName), bIsAutomatic);
+  }
+  void MoreColorClick() override { emit widget_->MoreColorClick(); }
+  void UserCancel() override { emit widget_->UserCancel(); }
+  void Resize() override { emit widget_->Resize(); }
+
+ private:
+  ColorBox* widget_;
+};
+
+}  // namespace
+
+class ColorBox::Private {
+ public:
+  explicit Private(ColorBox* q) : picScreen(new host::SurfaceWidget(q)), site(q), events(q) { Create(nullptr); }
+
+  // A control is either placed new (InitProperties) or loaded from a form file
+  // (ReadProperties), never both: loading replaces the control instance.
+  void Create(const lumo::PropertyBag* bag) {
+    core.reset();
+    core.emplace(host::QtHost::instance().runtime(), *picScreen, site, events);
+    if (bag != nullptr) {
+      core->UserControl_ReadProperties(*bag);
+    } else {
+      core->UserControl_InitProperties();
+    }
+  }
+
+  host::SurfaceWidget* picScreen;  // owned by the widget
+  host::QtControlSite site;
+  BoxSignals events;
+  std::optional<lumo::ColorBox> core;
+};
+
+ColorBox::ColorBox(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(this)) {
+  setFocusProxy(d->picScreen);
+  setFocusPolicy(Qt::StrongFocus);
+  d->picScreen->setMouseTracking(true);  // hot tracking needs moves without a button
+  setAccessibleName(tr("Colour palette"));
+  connect(&d->site, &host::QtControlSite::propertyChanged, this, &ColorBox::propertyChanged);
+  // The drawing holds resolved colours: a new palette needs a fresh paint.
+  connect(d->picScreen, &host::SurfaceWidget::paletteChanged, this, [this] { d->core->Refresh(); });
+}
+
+ColorBox::~ColorBox() = default;
+
+ComboPickStyles ColorBox::PickStyle() const { return static_cast<ComboPickStyles>(d->core->PickStyle()); }
+void ColorBox::setPickStyle(ComboPickStyles style) { d->core->SetPickStyle(style); }
+QString ColorBox::ColorName() const { return Text(d->core->ColorName()); }
+OLE_COLOR ColorBox::AutoColor() const { return d->core->AutoColor(); }
+void ColorBox::setAutoColor(OLE_COLOR color) { d->core->SetAutoColor(color); }
+QString ColorBox::AutomaticText() const { return Text(d->core->AutomaticText()); }
+void ColorBox::setAutomaticText(const QString& text) { d->core->SetAutomaticText(text.toStdString()); }
+QString ColorBox::MoreColorsText() const { return Text(d->core->MoreColorsText()); }
+void ColorBox::setMoreColorsText(const QString& text) { d->core->SetMoreColorsText(text.toStdString()); }
+bool ColorBox::IsAutomatic() const { return d->core->IsAutomatic(); }
+void ColorBox::setIsAutomatic(bool value) { d->core->SetIsAutomatic(value); }
+OLE_COLOR ColorBox::Color() const { return d->core->Color(); }
+void ColorBox::setColor(OLE_COLOR color) { d->core->SetColor(color); }
+bool ColorBox::AllowAutomatic() const { return d->core->AllowAutomatic(); }
+void ColorBox::setAllowAutomatic(bool allow) { d->core->SetAllowAutomatic(allow); }
+bool ColorBox::AllowMoreColors() const { return d->core->AllowMoreColors(); }
+void ColorBox::setAllowMoreColors(bool allow) { d->core->SetAllowMoreColors(allow); }
+
+void ColorBox::Refresh() { d->core->Refresh(); }
+
+QVariantMap ColorBox::writeProperties() const {
+  host::QtPropertyBag bag;
+  d->core->UserControl_WriteProperties(bag);
+  return bag.values();
+}
+
+void ColorBox::readProperties(const QVariantMap& properties) {
+  const host::QtPropertyBag bag(properties);
+  d->Create(&bag);
+}
+
+void ColorBox::setDesignMode(bool designing) { d->site.setUserMode(!designing); }
+
+host::SurfaceWidget* ColorBox::surface() const { return d->picScreen; }
+
+void ColorBox::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (d) d->core->UserControl_Resize();  // the control snaps back to its content
+}
+
+void ColorBox::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  // Shown at run time, the grid takes the mouse so that a press outside it cancels.
+  if (!event->spontaneous() && d->site.AmbientUserMode()) d->core->UserControl_Show();
+}
+
+}  // namespace LumoColorCombo

@@ -1,0 +1,114 @@
+#include "qt/ColorHexagon.h"
+
+#include <optional>
+
+#include "colorhexagon/ColorHexagon.h"
+#include "colorhexagon/ColorHexagonEvents.h"
+#include "qt/QtControlSite.h"
+#include "qt/QtHost.h"
+#include "qt/QtLabel.h"
+#include "qt/QtPropertyBag.h"
+#include "qt/SurfaceWidget.h"
+
+namespace LumoColorCombo {
+namespace {
+
+QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+// Turns the core control's events into the widget's signals.
+class HexagonSignals : public lumo::ColorHexagonEvents {
+ public:
+  explicit HexagonSignals(ColorHexagon* widget) : widget_(widget) {}
+
+  void ColorChanged(lumo::OLE_COLOR newColor, const std::string& name, const std::string& hex) override {
+    emit widget_->ColorChanged(newColor, Text(name), Text(hex));
+  }
+  void IsAutomaticChanged(bool newValue) override { emit widget_->IsAutomaticChanged(newValue); }
+  void ColorClick(lumo::OLE_COLOR color, const std::string& name, std::int16_t button, std::int16_t shift,
+                  std::int32_t x, std::int32_t y) override {
+    emit widget_->ColorClick(color, Text(name), button, shift, x, y);
+  }
+  void ColorDblClick(lumo::OLE_COLOR color, const std::string& name) override {
+    emit widget_->ColorDblClick(color, Text(name));
+  }
+  void ColorOver(lumo::OLE_COLOR color, const std::string& name, std::int16_t button, std::int16_t shift,
+                 std::int32_t x, std::int32_t y) override {
+    emit widget_->ColorOver(color, Text(name), button, shift, x, y);
+  }
+
+ private:
+  ColorHexagon* widget_;
+};
+
+}  // namespace
+
+class ColorHexagon::Private {
+ public:
+  explicit Private(ColorHexagon* q)
+      : picScreen(new host::SurfaceWidget(q)), lblOverColor(new host::QtLabel(q)), site(q), events(q) {
+    Create(nullptr);
+  }
+
+  // A control is either placed new (InitProperties) or loaded from a form file
+  // (ReadProperties), never both: loading replaces the control instance.
+  void Create(const lumo::PropertyBag* bag) {
+    core.reset();
+    core.emplace(host::QtHost::instance().runtime(), *picScreen, *lblOverColor, site, events);
+    if (bag != nullptr) {
+      core->UserControl_ReadProperties(*bag);
+    } else {
+      core->UserControl_InitProperties();
+    }
+    core->UserControl_Resize();
+  }
+
+  host::SurfaceWidget* picScreen;  // owned by the widget
+  host::QtLabel* lblOverColor;     // owned by the widget
+  host::QtControlSite site;
+  HexagonSignals events;
+  std::optional<lumo::ColorHexagon> core;
+};
+
+ColorHexagon::ColorHexagon(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(this)) {
+  setFocusProxy(d->picScreen);
+  setFocusPolicy(Qt::StrongFocus);
+  setAccessibleName(tr("Honeycomb colour picker"));
+  // The drawing holds resolved colours: a new palette needs a fresh paint.
+  connect(d->picScreen, &host::SurfaceWidget::paletteChanged, this, [this] { d->core->Refresh(); });
+}
+
+ColorHexagon::~ColorHexagon() = default;
+
+OLE_COLOR ColorHexagon::BackColor() const { return d->core->BackColor(); }
+void ColorHexagon::setBackColor(OLE_COLOR color) { d->core->SetBackColor(color); }
+OLE_COLOR ColorHexagon::AutoColor() const { return d->core->AutoColor(); }
+void ColorHexagon::setAutoColor(OLE_COLOR color) { d->core->SetAutoColor(color); }
+QString ColorHexagon::AutomaticText() const { return Text(d->core->AutomaticText()); }
+void ColorHexagon::setAutomaticText(const QString& text) { d->core->SetAutomaticText(text.toStdString()); }
+bool ColorHexagon::IsAutomatic() const { return d->core->IsAutomatic(); }
+void ColorHexagon::setIsAutomatic(bool value) { d->core->SetIsAutomatic(value); }
+OLE_COLOR ColorHexagon::Color() const { return d->core->Color(); }
+void ColorHexagon::setColor(OLE_COLOR color) { d->core->SetColor(color); }
+
+void ColorHexagon::Refresh() { d->core->Refresh(); }
+
+QVariantMap ColorHexagon::writeProperties() const {
+  host::QtPropertyBag bag;
+  d->core->UserControl_WriteProperties(bag);
+  return bag.values();
+}
+
+void ColorHexagon::readProperties(const QVariantMap& properties) {
+  const host::QtPropertyBag bag(properties);
+  d->Create(&bag);
+}
+
+host::SurfaceWidget* ColorHexagon::surface() const { return d->picScreen; }
+host::QtLabel* ColorHexagon::overColorLabel() const { return d->lblOverColor; }
+
+void ColorHexagon::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (d) d->core->UserControl_Resize();  // the control snaps back to its content
+}
+
+}  // namespace LumoColorCombo
