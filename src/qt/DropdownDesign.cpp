@@ -1,0 +1,13 @@
+#include "qt/DropdownDesign.h"
+
+#include "qt/QtFormWindow.h"
+
+namespace LumoColorCombo::host {
+
+void DropdownDesign::build(QtFormWindow& form) {
+  form.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+  form.setBlocksOtherWindows(false);
+  form.children().addHostedControl(QStringLiteral("ColorBox1")).move(0, 0);
+}
+
+}  // namespace LumoColorCombo::host
