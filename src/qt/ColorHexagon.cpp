@@ -13,6 +13,8 @@
 namespace LumoColorCombo {
 namespace {
 
+constexpr int kCaptionHeightPixels = 17;
+
 QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
 // Turns the core control's events into the widget's signals.
@@ -46,6 +48,11 @@ class ColorHexagon::Private {
  public:
   explicit Private(ColorHexagon* q)
       : picScreen(new host::SurfaceWidget(q)), lblOverColor(new host::QtLabel(q)), site(q), events(q) {
+    // The honeycomb is painted at fixed positions as soon as the control exists, so the
+    // surface must have its designed extent before that first paint.
+    picScreen->Move(0, 0, lumo::ColorHexagon::ScreenWidthTwips, lumo::ColorHexagon::ScreenHeightTwips);
+    // One line under the honeycomb, as wide as it; the control places it there itself.
+    lblOverColor->resize(picScreen->width(), kCaptionHeightPixels);
     Create(nullptr);
   }
 

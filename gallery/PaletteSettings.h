@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+#include "qt/LumoColorCombo.h"
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+
+namespace LumoColorCombo {
+class ColorBox;
+}
+
+// Editors for the properties of the palette grids; every change goes to all of them.
+class PaletteSettings : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PaletteSettings(QWidget* parent = nullptr);
+
+  void addTarget(LumoColorCombo::ColorBox* box);
+
+ private:
+  void apply();
+
+  QList<LumoColorCombo::ColorBox*> targets_;
+  QCheckBox* allowAutomatic_;
+  QCheckBox* allowMoreColors_;
+  QLineEdit* automaticText_;
+  QLineEdit* moreColorsText_;
+  QLineEdit* color_;
+  QComboBox* autoColor_;
+};

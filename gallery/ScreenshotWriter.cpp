@@ -1,0 +1,85 @@
+#include "ScreenshotWriter.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QPixmap>
+#include <QTabWidget>
+#include <QTimer>
+#include <QWidget>
+
+#include "GalleryWindow.h"
+#include "qt/ColorBox.h"
+#include "qt/ColorHexagon.h"
+
+ScreenshotWriter::ScreenshotWriter(GalleryWindow& window, const QString& folder)
+    : window_(window), folder_(folder) {
+  folder_.mkpath(QStringLiteral("."));
+}
+
+int ScreenshotWriter::writeAll() {
+  window_.show();
+  settle();
+  writePages(QString());
+  writePalettes();
+  writeHoneycomb();
+  writeDialog();
+  window_.setDarkTheme(true);
+  settle();
+  writePages(QStringLiteral("-dark"));
+  window_.setDarkTheme(false);
+  return written_;
+}
+
+void ScreenshotWriter::settle() const {
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+}
+
+bool ScreenshotWriter::save(const QPixmap& picture, const QString& name) {
+  const bool ok = picture.save(folder_.filePath(name + QStringLiteral(".png")));
+  if (ok) ++written_;
+  return ok;
+}
+
+void ScreenshotWriter::writePages(const QString& suffix) {
+  QTabWidget* tabs = window_.tabs();
+  for (int i = 0; i < tabs->count(); ++i) {
+    tabs->setCurrentIndex(i);
+    settle();
+    save(window_.grab(), QStringLiteral("gallery-%1%2").arg(tabs->tabText(i).toLower(), suffix));
+  }
+  tabs->setCurrentIndex(0);
+}
+
+void ScreenshotWriter::writePalettes() {
+  window_.tabs()->setCurrentIndex(0);
+  settle();
+  for (LumoColorCombo::ColorBox* box : window_.paletteBoxes()) save(box->grab(), QStringLiteral("palette-") + box->objectName());
+}
+
+void ScreenshotWriter::writeHoneycomb() {
+  window_.tabs()->setCurrentIndex(1);
+  settle();
+  LumoColorCombo::ColorHexagon* hexagon = window_.hexagon();
+  hexagon->setIsAutomatic(false);
+  hexagon->setColor(0x3399FF);  // FF9933 red first: a cell of the honeycomb, so it is marked
+  settle();
+  save(hexagon->grab(), QStringLiteral("honeycomb"));
+  window_.tabs()->setCurrentIndex(0);
+}
+
+void ScreenshotWriter::writeDialog() {
+  // The dialog is modal: photograph and close it from inside its own event loop.
+  QTimer::singleShot(0, [this] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr) {
+      for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top->isVisible() && top != &window_ && top->windowTitle() == QStringLiteral("More Colors")) dialog = top;
+      }
+    }
+    if (dialog == nullptr) return;
+    settle();
+    save(dialog->grab(), QStringLiteral("more-colors-dialog"));
+    dialog->close();
+  });
+  window_.runMoreColors(QStringLiteral("Screenshots"), 0x3399FF, false);
+}

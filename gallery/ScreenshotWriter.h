@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDir>
+#include <QString>
+
+class GalleryWindow;
+
+// Writes PNG screenshots of the gallery: each page, each palette, the honeycomb, the
+// "More Colors" dialog, and the palettes again under a dark theme.
+class ScreenshotWriter {
+ public:
+  ScreenshotWriter(GalleryWindow& window, const QString& folder);
+
+  // Answers the number of files written; 0 means something went wrong.
+  int writeAll();
+
+ private:
+  bool save(const QPixmap& picture, const QString& name);
+  void settle() const;
+  void writePages(const QString& suffix);
+  void writePalettes();
+  void writeHoneycomb();
+  void writeDialog();
+
+  GalleryWindow& window_;
+  QDir folder_;
+  int written_ = 0;
+};
