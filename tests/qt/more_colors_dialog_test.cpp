@@ -1,0 +1,127 @@
+// End to end: the real "More Colors" dialog, driven through its widgets while its
+// modal loop runs.
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+#include <functional>
+
+#include "qt/MoreColorsDialog.h"
+#include "qt/SurfaceWidget.h"
+
+using LumoColorCombo::MoreColorsDialog;
+using LumoColorCombo::host::SurfaceWidget;
+
+namespace {
+
+QWidget* OpenDialog() {
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    if (top->isVisible() && top->findChild<QLineEdit*>(QStringLiteral("txtColor")) != nullptr) return top;
+  }
+  return nullptr;
+}
+
+// Runs the dialog; `user` acts on it from inside its modal loop.
+QVariantList RunDialog(MoreColorsDialog& dialog, const std::function<void(QWidget&)>& user) {
+  bool acted = false;
+  QTimer::singleShot(0, [&] {
+    QWidget* window = OpenDialog();
+    if (window == nullptr) return;
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    acted = true;
+    user(*window);
+  });
+  const QVariantList result = dialog.exec();
+  if (!acted) qWarning("the dialog never opened");
+  return result;
+}
+
+QColor Centre(const SurfaceWidget& swatch) {
+  const QImage& image = swatch.image();
+  return QColor(image.pixel(image.width() / 2, image.height() / 2));
+}
+
+void Click(QWidget& window, const char* button) {
+  auto* found = window.findChild<QPushButton*>(QString::fromLatin1(button));
+  QVERIFY2(found != nullptr, button);
+  QTest::mouseClick(found, Qt::LeftButton);
+}
+
+}  // namespace
+
+class MoreColorsDialogTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void outcomeOfEachWayOfClosing_data() {
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<int>("slotCount");
+    QTest::addColumn<bool>("committed");
+    QTest::newRow("Ok") << "cmdButton(0)" << 5 << true;
+    QTest::newRow("Cancel") << "cmdButton(1)" << 5 << false;
+    QTest::newRow("title bar") << "" << 2 << false;
+  }
+
+  void outcomeOfEachWayOfClosing() {
+    QFETCH(QString, action);
+    QFETCH(int, slotCount);
+    QFETCH(bool, committed);
+    MoreColorsDialog dialog;
+    dialog.setIsAutomatic(false);
+    dialog.setColor(0x3399FF);  // a colour of the honeycomb
+    const QVariantList result = RunDialog(dialog, [&](QWidget& window) {
+      if (action.isEmpty()) {
+        window.close();
+      } else {
+        Click(window, action.toLatin1().constData());
+      }
+    });
+    QCOMPARE(result.size(), slotCount);
+    QCOMPARE(result.at(0).toBool(), committed);
+    if (committed) {  // Ok right after opening hands back what the caller set
+      QCOMPARE(result.at(1).toInt(), 0x3399FF);
+      QCOMPARE(result.at(2).toBool(), false);
+      QCOMPARE(result.at(3).toString(), QString());
+      QVERIFY(!result.at(4).isValid());
+    } else {
+      QVERIFY(!result.at(1).isValid());
+    }
+  }
+
+  void typingAColourAndLeavingTheBoxPaintsTheNewSwatch() {
+    MoreColorsDialog dialog;
+    dialog.setIsAutomatic(false);
+    dialog.setColor(0x000000);
+    QColor swatch;
+    QString shownText;
+    const QVariantList result = RunDialog(dialog, [&](QWidget& window) {
+      auto* field = window.findChild<QLineEdit*>(QStringLiteral("txtColor"));
+      QVERIFY(field != nullptr);
+      QApplication::setActiveWindow(&window);
+      field->setFocus();
+      field->selectAll();
+      QTest::keyClicks(field, QStringLiteral("ff,0,0"));
+      QTest::keyClick(field, Qt::Key_Tab);  // leaves the box
+      swatch = Centre(*window.findChild<SurfaceWidget*>(QStringLiteral("picNew")));
+      shownText = field->text();
+      Click(window, "cmdButton(0)");
+    });
+    QCOMPARE(swatch, QColor(Qt::red));
+    QCOMPARE(shownText, QString("Hex={FF,00,00}"));
+    QCOMPARE(result.value(1).toInt(), 0x0000FF);  // red, stored blue-high
+    QCOMPARE(result.value(2).toBool(), false);
+  }
+
+  void theCurrentSwatchShowsTheCallersColour() {
+    MoreColorsDialog dialog;
+    dialog.setCurrentColor(0x00FF00);  // green
+    QColor current;
+    RunDialog(dialog, [&](QWidget& window) {
+      current = Centre(*window.findChild<SurfaceWidget*>(QStringLiteral("picCurrent")));
+      Click(window, "cmdButton(1)");
+    });
+    QCOMPARE(current, QColor(Qt::green));
+  }
+};
+
+QTEST_MAIN(MoreColorsDialogTest)
+#include "more_colors_dialog_test.moc"
