@@ -66,8 +66,10 @@ ColorBox::ColorBox(QWidget* parent) : QWidget(parent), d(std::make_unique<Privat
   d->picScreen->setMouseTracking(true);  // hot tracking needs moves without a button
   setAccessibleName(tr("Colour palette"));
   connect(&d->site, &host::QtControlSite::propertyChanged, this, &ColorBox::propertyChanged);
-  // The drawing holds resolved colours: a new palette needs a fresh paint.
+  // The drawing holds resolved colours at one pixel density: a new palette, or a move
+  // to a screen of another scale, needs a fresh paint.
   connect(d->picScreen, &host::SurfaceWidget::paletteChanged, this, [this] { d->core->Refresh(); });
+  connect(d->picScreen, &host::SurfaceWidget::devicePixelRatioChanged, this, [this] { d->core->Refresh(); });
 }
 
 ColorBox::~ColorBox() = default;

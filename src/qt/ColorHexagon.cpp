@@ -80,8 +80,10 @@ ColorHexagon::ColorHexagon(QWidget* parent) : QWidget(parent), d(std::make_uniqu
   setFocusProxy(d->picScreen);
   setFocusPolicy(Qt::StrongFocus);
   setAccessibleName(tr("Honeycomb colour picker"));
-  // The drawing holds resolved colours: a new palette needs a fresh paint.
+  // The drawing holds resolved colours at one pixel density: a new palette, or a move
+  // to a screen of another scale, needs a fresh paint.
   connect(d->picScreen, &host::SurfaceWidget::paletteChanged, this, [this] { d->core->Refresh(); });
+  connect(d->picScreen, &host::SurfaceWidget::devicePixelRatioChanged, this, [this] { d->core->Refresh(); });
 }
 
 ColorHexagon::~ColorHexagon() = default;
