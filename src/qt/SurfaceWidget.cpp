@@ -318,6 +318,10 @@ void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (Listener() == nullptr || button == 0) return;
   Listener()->MouseUp(button, VirtualKeys::shiftState(event->modifiers()), event->position().x(),
                       event->position().y());
+  // A picture surface's capture ends with the last button's release, as on the desktop
+  // the controls come from: a grid that took the mouse to see a press outside it must
+  // not keep the whole application's mouse after that press.
+  if (QWidget::mouseGrabber() == this && event->buttons() == Qt::NoButton) releaseMouse();
 }
 
 void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -386,6 +386,21 @@ class SurfaceTest : public QObject {
     QTest::mouseRelease(surface.get(), Qt::LeftButton, {}, QPoint(4, 4));
     QCOMPARE(recorder.events, (QStringList{"MouseDown 1 0 4 4", "MouseUp 1 0 4 4", "DblClick", "MouseUp 1 0 4 4"}));
   }
+
+  void captureEndsWithTheButtonRelease() {
+    Recorder recorder;
+    surface->SetListener(&recorder);
+    surface->show();
+    QVERIFY(QTest::qWaitForWindowExposed(surface.get()));
+    surface->grabMouse();
+    QCOMPARE(QWidget::mouseGrabber(), surface.get());
+    QTest::mouseMove(surface.get(), QPoint(-5, 3));
+    QCOMPARE(QWidget::mouseGrabber(), surface.get());  // moving keeps it
+    QTest::mousePress(surface.get(), Qt::LeftButton, {}, QPoint(-5, 3));
+    QTest::mouseRelease(surface.get(), Qt::LeftButton, {}, QPoint(-5, 3));
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QVERIFY(recorder.events.contains("MouseUp 1 0 -5 3"));
+  }
 };
 
 QTEST_MAIN(SurfaceTest)
