@@ -307,8 +307,12 @@ void ColorBox::DrawButton(CellPtr cell, bool bHot) {
 }
 
 void ColorBox::MakeHot(const CellPtr& cell, std::int32_t index) {
+  // Only one cell is hot at a time: the one it replaces loses its raised frame, as it
+  // does when the focus moves to a button, so keyboard moves leave no trail.
+  const CellPtr previous = m_HotCell;
   m_HotCell = cell;
   m_HotIndex = index;
+  if (previous && previous != cell) DrawButton(previous, false);
   m_FocusZone = focuszone::Grid;
   DrawAutoBorder(false);
   DrawMoreColorBorder(false);

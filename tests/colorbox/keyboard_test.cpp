@@ -75,6 +75,27 @@ TEST_F(ColorBoxKeys, EnterChoosesWhatHasTheFocus) {
   }
 }
 
+TEST_F(ColorBoxKeys, MovingOnLeavesOnlyTheNewCellRaised) {
+  Focus(focuszone::Grid, 1);
+  surface.Key(keycode::Right);
+  surface.Key(keycode::Right);
+  const auto lastFrameOf = [&](std::int32_t index) {
+    const auto cell = box->Cells()->Item(index);
+    const Rect area{cell->BoundLeft() - 3, cell->BoundTop() - 3, cell->BoundLeft() + 15, cell->BoundTop() + 15};
+    std::string last;
+    for (const auto& call : surface.Calls) {
+      if (call.Args.size() >= 4 && Rect{call.Args[0], call.Args[1], call.Args[2], call.Args[3]} == area) {
+        last = call.Op == "DrawEdge" ? "raised" : "erased";
+      }
+    }
+    return last;
+  };
+  EXPECT_EQ(lastFrameOf(1), "erased");
+  EXPECT_EQ(lastFrameOf(2), "erased");
+  EXPECT_EQ(lastFrameOf(3), "raised");
+  EXPECT_EQ(box->HotIndex(), 3);
+}
+
 TEST_F(ColorBoxKeys, EscapeMarksThePickNotCommittedAndCancels) {
   Focus(focuszone::Grid, 4);
   host.Runtime.ReDimPopupResult(4);
