@@ -103,8 +103,16 @@ QWidget* GalleryWindow::buildPalettesPage() {
   scroll->setWidget(grid);
   scroll->setWidgetResizable(true);
 
+  auto* hint = new QLabel(tr("A grid takes the mouse while the pointer moves over it, so that a press "
+                             "outside it cancels (UserCancel); that press goes to the grid. Resting "
+                             "on a grid for half a second gives the mouse back."),
+                          page);
+  hint->setWordWrap(true);
+  hint->setMaximumWidth(300);
+
   auto* left = new QVBoxLayout;
   left->addWidget(settingsBox);
+  left->addWidget(hint);
   left->addStretch();
   layout->addLayout(left);
   layout->addWidget(scroll, 1);
