@@ -45,7 +45,8 @@ class ColorBox : public SurfaceEvents {
   // Stored as a plain number: a value outside ComboPickStyles is kept and loads nothing.
   std::int32_t PickStyle() const { return m_PickStyle; }
   void SetPickStyle(std::int32_t value);
-  // The name of the last chosen cell; empty for the Automatic button.
+  // The name of the last chosen cell. Choosing Automatic or More Colors leaves it as it
+  // was (an Automatic Click passes it on); a left release that chooses nothing empties it.
   const std::string& ColorName() const { return m_ColorName; }
   OLE_COLOR AutoColor() const { return m_AutoColor; }
   void SetAutoColor(OLE_COLOR value);

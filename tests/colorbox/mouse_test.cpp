@@ -75,6 +75,7 @@ TEST_F(ColorBoxPointer, ChoosingStoresTheCellAndTheClickHandlerOnlyGetsCopies) {
   ClickAt(Centre(box->AutoRect()));
   EXPECT_TRUE(box->IsAutomatic());
   EXPECT_EQ(box->Color(), RGB(255, 0, 0));
+  EXPECT_EQ(box->ColorName(), "Red");  // Automatic does not touch the name
   ClickAt({CellCentre(1).X + 9, CellCentre(1).Y});
   EXPECT_EQ(box->ColorName(), "");  // a release over nothing still forgets the name
 }
