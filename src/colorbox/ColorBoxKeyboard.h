@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "colormodel/SurfaceEvents.h"  // keycode: the keys a ColorBox handles
+
 namespace lumo {
 
 // The three places the keyboard focus of a ColorBox can be.
@@ -10,16 +12,6 @@ inline constexpr std::int32_t Automatic = 1;
 inline constexpr std::int32_t Grid = 2;
 inline constexpr std::int32_t MoreColors = 3;
 }  // namespace focuszone
-
-// The platform key codes a ColorBox handles; every other key is ignored.
-namespace keycode {
-inline constexpr std::int16_t Enter = 13;
-inline constexpr std::int16_t Escape = 27;
-inline constexpr std::int16_t Left = 37;
-inline constexpr std::int16_t Up = 38;
-inline constexpr std::int16_t Right = 39;
-inline constexpr std::int16_t Down = 40;
-}  // namespace keycode
 
 // Where a key moves the keyboard focus of the grid, kept apart from the drawing so the
 // whole table reads in one place. Movement wraps: past the last cell comes the More

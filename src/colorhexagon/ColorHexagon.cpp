@@ -22,10 +22,10 @@ constexpr std::int32_t kSelectionPenWidth = 2;
 // Arrow keys to HexagonNavigation directions; 0 for any other key.
 std::int32_t DirectionOfKey(std::int16_t keyCode) {
   switch (keyCode) {
-    case 37: return HexagonNavigation::Left;
-    case 38: return HexagonNavigation::Up;
-    case 39: return HexagonNavigation::Right;
-    case 40: return HexagonNavigation::Down;
+    case keycode::Left: return HexagonNavigation::Left;
+    case keycode::Up: return HexagonNavigation::Up;
+    case keycode::Right: return HexagonNavigation::Right;
+    case keycode::Down: return HexagonNavigation::Down;
     default: return 0;
   }
 }
