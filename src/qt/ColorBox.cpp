@@ -6,6 +6,7 @@
 
 #include "colorbox/ColorBox.h"
 #include "colorbox/ColorBoxEvents.h"
+#include "qt/ControlLifecycle.h"
 #include "qt/QtControlSite.h"
 #include "qt/QtHost.h"
 #include "qt/QtPropertyBag.h"
@@ -42,16 +43,8 @@ class ColorBox::Private {
  public:
   explicit Private(ColorBox* q) : picScreen(new host::SurfaceWidget(q)), site(q), events(q) { Create(nullptr); }
 
-  // A control is either placed new (InitProperties) or loaded from a form file
-  // (ReadProperties), never both: loading replaces the control instance.
   void Create(const lumo::PropertyBag* bag) {
-    core.reset();
-    core.emplace(host::QtHost::instance().runtime(), *picScreen, site, events);
-    if (bag != nullptr) {
-      core->UserControl_ReadProperties(*bag);
-    } else {
-      core->UserControl_InitProperties();
-    }
+    host::StartControl(core, bag, host::QtHost::instance().runtime(), *picScreen, site, events);
   }
 
   host::SurfaceWidget* picScreen;  // owned by the widget

@@ -4,6 +4,7 @@
 
 #include "colorhexagon/ColorHexagon.h"
 #include "colorhexagon/ColorHexagonEvents.h"
+#include "qt/ControlLifecycle.h"
 #include "qt/QtControlSite.h"
 #include "qt/QtHost.h"
 #include "qt/QtLabel.h"
@@ -56,17 +57,9 @@ class ColorHexagon::Private {
     Create(nullptr);
   }
 
-  // A control is either placed new (InitProperties) or loaded from a form file
-  // (ReadProperties), never both: loading replaces the control instance.
   void Create(const lumo::PropertyBag* bag) {
-    core.reset();
-    core.emplace(host::QtHost::instance().runtime(), *picScreen, *lblOverColor, site, events);
-    if (bag != nullptr) {
-      core->UserControl_ReadProperties(*bag);
-    } else {
-      core->UserControl_InitProperties();
-    }
-    core->UserControl_Resize();
+    host::StartControl(core, bag, host::QtHost::instance().runtime(), *picScreen, *lblOverColor, site, events)
+        .UserControl_Resize();
   }
 
   host::SurfaceWidget* picScreen;  // owned by the widget
