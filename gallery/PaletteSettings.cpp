@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 
+#include "colormodel/Types.h"
 #include "qt/ColorBox.h"
 
 namespace {
@@ -13,8 +14,7 @@ namespace {
 // Colours are typed red first, as people read them ("FF8000"), and stored the
 // controls' way (blue in the high byte).
 LumoColorCombo::OLE_COLOR FromRgbText(const QString& text) {
-  const uint rgb = text.toUInt(nullptr, 16);
-  return static_cast<LumoColorCombo::OLE_COLOR>(((rgb >> 16) & 0xFF) | (rgb & 0xFF00) | ((rgb & 0xFF) << 16));
+  return lumo::FromRedFirst(text.toUInt(nullptr, 16));
 }
 
 }  // namespace

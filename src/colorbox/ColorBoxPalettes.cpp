@@ -19,10 +19,6 @@ struct NamedColor {
 };
 
 // The tables below are written red-green-blue; a colour value is stored blue-green-red.
-constexpr OLE_COLOR FromRrggbb(std::uint32_t rrggbb) {
-  return RGB(static_cast<std::int32_t>((rrggbb >> 16) & 0xFF), static_cast<std::int32_t>((rrggbb >> 8) & 0xFF),
-             static_cast<std::int32_t>(rrggbb & 0xFF));
-}
 
 // "Fushia" is the spelling every ColorBox palette uses; it is part of the product.
 constexpr std::array<NamedColor, 16> kStandard16{{
@@ -95,7 +91,7 @@ const char* CubeName(std::int32_t cell) {
 }
 
 void AddAll(CColorboxCol& cells, std::span<const NamedColor> colors) {
-  for (const NamedColor& c : colors) cells.Add(c.name, FromRrggbb(c.rrggbb), 0, 0);
+  for (const NamedColor& c : colors) cells.Add(c.name, FromRedFirst(c.rrggbb), 0, 0);
 }
 
 }  // namespace
@@ -176,7 +172,7 @@ void ColorBoxPalettes::LoadPalette48(CColorboxCol& cells, bool bWithBW) {
 void ColorBoxPalettes::LoadPalette40(CColorboxCol& cells) {
   errors_.Trap(kModule, "LoadPalette40", [&] {
     cells.Clear();
-    for (std::uint32_t rrggbb : kPalette40) cells.Add("", FromRrggbb(rrggbb), 0, 0);
+    for (std::uint32_t rrggbb : kPalette40) cells.Add("", FromRedFirst(rrggbb), 0, 0);
     columns_ = 8;
   });
 }

@@ -6,15 +6,8 @@
 namespace lumo {
 namespace {
 
-// The table is written red-green-blue, the way people read colours; the cells hold
-// the platform's packed value (red in the low byte).
-constexpr OLE_COLOR FromRgbText(std::uint32_t rrggbb) {
-  return RGB(static_cast<std::int32_t>((rrggbb >> 16) & 0xFFu),
-             static_cast<std::int32_t>((rrggbb >> 8) & 0xFFu),
-             static_cast<std::int32_t>(rrggbb & 0xFFu));
-}
-
-// Honeycomb rows, top to bottom, each from X = 0 upward.
+// Honeycomb rows, top to bottom, each from X = 0 upward. Colours are written red first,
+// the way people read them; FromRedFirst turns them into the packed value.
 const std::initializer_list<std::uint32_t> kRows[] = {
     {0x003366, 0x336699, 0x3366CC, 0x003399, 0x000099, 0x0000CC, 0x000066},
     {0x006666, 0x006699, 0x0099CC, 0x0066CC, 0x0033CC, 0x0000FF, 0x3333FF, 0x333399},
@@ -50,10 +43,10 @@ constexpr NamedCell kNames[] = {{13, "Blue"},    {28, "Aqua"},    {48, "Lime"}, 
 // The grey row under the honeycomb: two staggered rows of small greys between a
 // large white (left) and a large black (right).
 constexpr HexagonCellEntry kGreyRow[] = {
-    {"", FromRgbText(0xFFFFFF), 0, 14, true},    {"", FromRgbText(0xCCCCCC), 3, 14, false},
-    {"", FromRgbText(0xC0C0C0), 3, 15, false},   {"", FromRgbText(0x999999), 4, 14, false},
-    {"Gray", FromRgbText(0x808080), 4, 15, false}, {"", FromRgbText(0x666666), 5, 14, false},
-    {"", FromRgbText(0x333333), 5, 15, false},   {"Black", FromRgbText(0x000000), 7, 14, true},
+    {"", FromRedFirst(0xFFFFFF), 0, 14, true},    {"", FromRedFirst(0xCCCCCC), 3, 14, false},
+    {"", FromRedFirst(0xC0C0C0), 3, 15, false},   {"", FromRedFirst(0x999999), 4, 14, false},
+    {"Gray", FromRedFirst(0x808080), 4, 15, false}, {"", FromRedFirst(0x666666), 5, 14, false},
+    {"", FromRedFirst(0x333333), 5, 15, false},   {"Black", FromRedFirst(0x000000), 7, 14, true},
 };
 
 const char* NameOf(std::int32_t index) {
@@ -71,7 +64,7 @@ std::array<HexagonCellEntry, HexagonTable::CellCount> Build() {
     std::int32_t x = 0;
     for (const std::uint32_t rgb : colours) {
       const auto index = static_cast<std::int32_t>(next + 1);
-      cells[next++] = {NameOf(index), FromRgbText(rgb), x++, row, false};
+      cells[next++] = {NameOf(index), FromRedFirst(rgb), x++, row, false};
     }
     ++row;
   }

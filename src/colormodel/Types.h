@@ -40,4 +40,10 @@ constexpr OLE_COLOR RGB(std::int32_t red, std::int32_t green, std::int32_t blue)
   return red + 256 * green + 65536 * blue;
 }
 
+// A colour written red first, as people read it (0xFF8000 is orange), as a colour value.
+constexpr OLE_COLOR FromRedFirst(std::uint32_t rrggbb) {
+  return RGB(static_cast<std::int32_t>((rrggbb >> 16) & 0xFFu), static_cast<std::int32_t>((rrggbb >> 8) & 0xFFu),
+             static_cast<std::int32_t>(rrggbb & 0xFFu));
+}
+
 }  // namespace lumo
