@@ -7,6 +7,7 @@ packages=(
   cmake ninja-build g++                       # build
   libgtest-dev libgmock-dev libbenchmark-dev  # tests and benchmarks
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools libgl-dev  # Qt 6 Widgets, Designer, UiTools
+  libqt6opengl6-dev                           # needed by the Designer and UiTools CMake packages
   fonts-dejavu-core                           # text for the offscreen platform
 )
 
