@@ -8,6 +8,8 @@
 
 namespace lumo {
 
+class ControlEvents;
+
 // What a control asks of the container it sits in: change notification, the
 // container's ambient properties, and its own outer size and state.
 class ControlSite {
@@ -31,6 +33,15 @@ class ControlSite {
   // The characters that, with Alt, give the control the focus.
   virtual void SetAccessKeys(const std::string& /*keys*/) {}
   virtual WindowHandle hWnd() const { return 0; }
+
+  // The control placed on this site, to which the host delivers the life-cycle and
+  // focus events (ControlEvents); null detaches it. A control attaches itself when it
+  // is created and detaches when it is destroyed.
+  void Attach(ControlEvents* control) { control_ = control; }
+  ControlEvents* Control() const { return control_; }
+
+ private:
+  ControlEvents* control_ = nullptr;
 };
 
 }  // namespace lumo

@@ -37,6 +37,10 @@ class WindowSystem {
 
   // Lets pending window messages run.
   virtual void DoEvents() = 0;
+
+  // Shows the library's About box modally over the window that holds `owner`; returns
+  // when it is closed. A host without one shows nothing.
+  virtual void ShowAboutBox(WindowHandle /*owner*/) {}
 };
 
 }  // namespace lumo

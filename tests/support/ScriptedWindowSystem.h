@@ -25,6 +25,7 @@ class ScriptedWindowSystem : public WindowSystem {
   WindowHandle GetFocus() const override { return Focus; }
   Point ClientToScreen(WindowHandle window, Point point) const override;
   void DoEvents() override;
+  void ShowAboutBox(WindowHandle owner) override { AboutBoxOwners.push_back(owner); }
 
   // --- for tests ---
   // What the user does while the named form is shown modally.
@@ -45,6 +46,7 @@ class ScriptedWindowSystem : public WindowSystem {
   int DoEventsCalls = 0;
   std::function<void()> OnDoEvents;
   std::vector<std::string> LoadedForms;
+  std::vector<WindowHandle> AboutBoxOwners;
 
  private:
   std::map<std::string, std::function<void(TestForm&)>> scripts_;

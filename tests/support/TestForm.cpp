@@ -1,5 +1,7 @@
 #include "support/TestForm.h"
 
+#include "colormodel/ControlEvents.h"
+
 namespace lumo::testing {
 
 TestForm::TestForm(std::string name, FormEvents& events, WindowHandle handle)
@@ -12,8 +14,16 @@ void TestForm::Move(std::int32_t left, std::int32_t top, std::int32_t width, std
   height_ = height;
 }
 
+// Becoming visible shows the hosted controls and activates the window, as a window
+// system does when it maps a window; the modal script runs after that.
 void TestForm::Show(bool modal) {
-  visible_ = true;
+  if (!visible_ && loaded_) {
+    visible_ = true;
+    for (const auto& [name, site] : sites_) {
+      if (ControlEvents* control = site->Control()) control->UserControl_Show();
+    }
+    if (loaded_) events_.Form_Activate();
+  }
   if (!modal) return;
   ++ModalShows;
   if (ModalScript) ModalScript(*this);
@@ -59,5 +69,13 @@ void TestForm::ClickControl(const std::string& control, std::int32_t index) {
 }
 
 void TestForm::LeaveControl(const std::string& control) { events_.ControlLostFocus(control); }
+
+void TestForm::Deactivate() {
+  if (loaded_) events_.Form_Deactivate();
+}
+
+void TestForm::PressKey(std::int16_t keyCode, std::int16_t shift) {
+  if (loaded_) events_.Form_KeyDown(keyCode, shift);
+}
 
 }  // namespace lumo::testing

@@ -56,6 +56,10 @@ class TestForm : public FormWindow {
   void ClickControl(const std::string& control, std::int32_t index = 0);
   void LeaveControl(const std::string& control);
   void CloseFromTitleBar() { UnloadWithMode(unloadmode::ControlMenu); }
+  // Another window took the activation.
+  void Deactivate();
+  // A key pressed while the window is active (the form sees it first).
+  void PressKey(std::int16_t keyCode, std::int16_t shift = 0);
   bool IsVisible() const { return visible_; }
   int ModalShows = 0;
   // The script a modal show runs in place of the user; set by the window system.
