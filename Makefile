@@ -17,6 +17,7 @@ build: configure
 	cmake --build $(BUILD) -j 2
 
 test: build
+	bash scripts/check-deps.sh $(BUILD)
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j 2
 
 run: build

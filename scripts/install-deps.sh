@@ -1,15 +1,11 @@
 #!/usr/bin/env bash
 # Installs, from Debian's packages, whatever of the build and test dependencies is
-# missing. Does nothing (and needs no network) when everything is already there.
+# missing (the list is scripts/debian-packages.txt). Does nothing (and needs no network)
+# when everything is already there.
 set -euo pipefail
+cd "$(dirname "$0")"
 
-packages=(
-  cmake ninja-build g++                       # build
-  libgtest-dev libgmock-dev libbenchmark-dev  # tests and benchmarks
-  qt6-base-dev qt6-tools-dev qt6-tools-dev-tools libgl-dev  # Qt 6 Widgets, Designer, UiTools
-  libqt6opengl6-dev                           # needed by the Designer and UiTools CMake packages
-  fonts-dejavu-core                           # text for the offscreen platform
-)
+mapfile -t packages < <(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' debian-packages.txt)
 
 missing=()
 for p in "${packages[@]}"; do
