@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "colormodel/Geometry.h"
+#include "colormodel/Picture.h"
 #include "colormodel/StdFont.h"
 #include "colormodel/SurfaceEvents.h"
 #include "colormodel/Types.h"
@@ -62,6 +63,10 @@ class DrawingSurface {
   void Cls();
   // Copies another surface's drawing onto this one at (x, y).
   virtual void PaintPicture(const DrawingSurface& source, std::int32_t x, std::int32_t y) = 0;
+  // Paints a picture's opaque pixels with its top left corner at (x, y): one line per
+  // run of neighbouring pixels of one colour, through the line hook, so every host draws
+  // it without code of its own. The fore colour, draw width and pen position are kept.
+  void PaintPicture(const Picture& picture, std::int32_t x, std::int32_t y);
   const std::string& ToolTipText() const { return toolTipText_; }
   // Assigning the tip, even the same text again, shows it afresh if the pointer rests here.
   void SetToolTipText(const std::string& text);

@@ -1,0 +1,9 @@
+#include "colorcombo/CEventPass.h"
+
+namespace lumo {
+
+void CEventPass::OverColor(OLE_COLOR lColor, bool bOverAutomatic) {
+  if (listener_ != nullptr) listener_->OverColor(lColor, bOverAutomatic);
+}
+
+}  // namespace lumo
