@@ -27,14 +27,14 @@ std::int32_t QtWindowSystem::ScreenHeight() const { return Twips::fromPixels(Scr
 
 lumo::WindowHandle QtWindowSystem::SetCapture(lumo::WindowHandle window) {
   const lumo::WindowHandle previous = GetCapture();
-  if (QWidget* widget = WidgetHandles::widgetOf(window)) widget->grabMouse();
+  if (QWidget* widget = WidgetHandles::widgetOf(window)) capture_.take(*widget);
   return previous;
 }
 
 lumo::WindowHandle QtWindowSystem::GetCapture() const { return WidgetHandles::handleOf(QWidget::mouseGrabber()); }
 
 bool QtWindowSystem::ReleaseCapture() {
-  if (QWidget* holder = QWidget::mouseGrabber()) holder->releaseMouse();
+  capture_.release();
   return true;
 }
 

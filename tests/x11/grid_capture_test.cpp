@@ -1,0 +1,56 @@
+// A shown grid holds the mouse in the X server itself: a press anywhere on the desktop,
+// even outside the application, reaches it, as a drop-down's grid needs.
+#include <QScreen>
+#include <QtTest>
+
+#include "GridSpots.h"
+#include "ServerInput.h"
+#include "qt/ColorBox.h"
+#include "qt/SurfaceWidget.h"
+
+using LumoColorCombo::ColorBox;
+using LumoColorCombo::OLE_COLOR;
+
+class GridCaptureTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void pressGoesToTheShownGrid_data();
+  void pressGoesToTheShownGrid();
+};
+
+void GridCaptureTest::pressGoesToTheShownGrid_data() {
+  QTest::addColumn<QString>("where");
+  QTest::newRow("on a cell") << "cell";
+  QTest::newRow("outside the grid, in its window") << "window";
+  QTest::newRow("outside the application") << "desktop";
+}
+
+void GridCaptureTest::pressGoesToTheShownGrid() {
+  QFETCH(QString, where);
+  QStringList raised;  // outlives the window, whose closing raises UserCancel too
+  QWidget window;
+  window.setGeometry(100, 100, 320, 240);
+  auto* box = new ColorBox(&window);
+  box->move(20, 20);
+  connect(box, &ColorBox::Click, this, [&](OLE_COLOR& color, const QString&, bool&) { raised << QString("Click %1").arg(color); });
+  connect(box, &ColorBox::UserCancel, this, [&] { raised << "UserCancel"; });
+
+  // Shown together with its window, the grid asks for the mouse before the window is mapped.
+  window.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&window));
+  const QImage picture = box->surface()->image();
+  const QPoint cell = GridSpots::CellSpot(picture);
+  QVERIFY(cell.x() >= 0);
+  const QRect desktop = window.screen()->geometry();
+  const QPoint target = where == "cell"     ? box->surface()->mapToGlobal(cell)
+                        : where == "window" ? window.geometry().bottomRight() - QPoint(5, 5)
+                                            : desktop.bottomRight() - QPoint(10, 10);
+  QVERIFY(ServerInput::Click(target));
+
+  QTRY_VERIFY(!raised.isEmpty());
+  QCOMPARE(raised.first(), where == "cell" ? QString("Click %1").arg(GridSpots::ColorAt(picture, cell)) : "UserCancel");
+}
+
+QTEST_MAIN(GridCaptureTest)
+#include "grid_capture_test.moc"
