@@ -68,9 +68,12 @@ ColorBox::ColorBox(Runtime& runtime, DrawingSurface& surface, ControlSite& site,
   m_Timer1->SetInterval(TimerInterval);
   m_Timer1->SetEnabled(false);
   UserControl_Initialize();
+  // Attached once initialised, so the container's events never reach a half-made control.
+  site_.Attach(this);
 }
 
 ColorBox::~ColorBox() {
+  if (site_.Control() == this) site_.Attach(nullptr);
   m_Timer1->SetEnabled(false);
   UserControl_Terminate();
   if (picScreen.Listener() == this) picScreen.SetListener(nullptr);

@@ -9,6 +9,7 @@
 #include "colorbox/ColorBoxPainter.h"
 #include "colorbox/ColorBoxPalettes.h"
 #include "colormodel/CColorboxCol.h"
+#include "colormodel/ControlEvents.h"
 #include "colormodel/Geometry.h"
 #include "colormodel/SurfaceEvents.h"
 #include "colormodel/Types.h"
@@ -28,14 +29,16 @@ class Runtime;
 // a ColorCombo's drop-down, which relays its events.
 //
 // Every procedure traps its own failures and reports them under the module
-// "ColorBox"; nothing is thrown to the host.
-class ColorBox : public SurfaceEvents {
+// "ColorBox"; nothing is thrown to the host. Its container delivers the life-cycle
+// events through the site (ControlEvents), wherever the grid is placed.
+class ColorBox : public SurfaceEvents, public ControlEvents {
  public:
   // The control's Timer1 ticks every 500 ms while the tooltip logic wants it.
   static constexpr std::int32_t TimerInterval = 500;
 
   // Registers as the surface's listener, creates the (disabled) timer and runs
-  // UserControl_Initialize, so a new control is painted and sized at once.
+  // UserControl_Initialize, so a new control is painted and sized at once; then
+  // attaches to the site, which delivers the container's events from there on.
   ColorBox(Runtime& runtime, DrawingSurface& picScreen, ControlSite& site, ColorBoxEvents& events);
   ColorBox(const ColorBox&) = delete;
   ColorBox& operator=(const ColorBox&) = delete;
@@ -68,13 +71,14 @@ class ColorBox : public SurfaceEvents {
   // raises Resize. Does nothing at all while PickStyle is -1.
   void Refresh();
 
-  // --- life cycle, called by the host ------------------------------------------------
+  // --- life cycle: Initialize and Terminate run from the constructor and destructor,
+  // the rest comes from the container through the site ------------------------------
   void UserControl_Initialize();
-  void UserControl_InitProperties();
-  void UserControl_ReadProperties(const PropertyBag& bag);
-  void UserControl_WriteProperties(PropertyBag& bag) const;
-  void UserControl_Show();
-  void UserControl_Resize();
+  void UserControl_InitProperties() override;
+  void UserControl_ReadProperties(const PropertyBag& bag) override;
+  void UserControl_WriteProperties(PropertyBag& bag) const override;
+  void UserControl_Show() override;
+  void UserControl_Resize() override;
   void UserControl_Terminate();
 
   // --- surface input (SurfaceEvents), reported under the picScreen_* labels ---------

@@ -50,9 +50,12 @@ ColorHexagon::ColorHexagon(Runtime& runtime, DrawingSurface& picScreen, Label& l
   timer1_->SetInterval(TimerIntervalMs);
   timer1_->SetEnabled(true);
   UserControl_Initialize();
+  // Attached once initialised, so the container's events never reach a half-made control.
+  site_.Attach(this);
 }
 
 ColorHexagon::~ColorHexagon() {
+  if (site_.Control() == this) site_.Attach(nullptr);
   UserControl_Terminate();
   timer1_.reset();
   if (picScreen_.Listener() == this) picScreen_.SetListener(nullptr);

@@ -6,6 +6,7 @@
 
 #include "colorhexagon/ColorHexagonEvents.h"
 #include "colormodel/CColorboxCol.h"
+#include "colormodel/ControlEvents.h"
 #include "colormodel/Globals.h"
 #include "colormodel/SurfaceEvents.h"
 #include "colormodel/Types.h"
@@ -21,8 +22,9 @@ class Runtime;
 
 // The honeycomb colour picker: 135 hexagonal cells painted on `picScreen`, a hover
 // label under it, selection by click or arrow keys, five events and five persisted
-// properties. The control never scales its content; it sizes itself to it.
-class ColorHexagon : public SurfaceEvents {
+// properties. The control never scales its content; it sizes itself to it. Its
+// container delivers the life-cycle events through the site (ControlEvents).
+class ColorHexagon : public SurfaceEvents, public ControlEvents {
  public:
   static constexpr OLE_COLOR DefaultColor = 0x663300;  // the colour of cell 1
   static constexpr const char* DefaultAutomaticText = "Automatic";
@@ -31,12 +33,13 @@ class ColorHexagon : public SurfaceEvents {
   static constexpr std::int32_t ScreenHeightTwips = 3735;
   static constexpr std::int32_t TimerIntervalMs = 100;
 
-  // Listens to picScreen, starts Timer1 and runs UserControl_Initialize.
+  // Listens to picScreen, starts Timer1, runs UserControl_Initialize and attaches to
+  // the site.
   ColorHexagon(Runtime& runtime, DrawingSurface& picScreen, Label& lblOverColor, ControlSite& site,
                ColorHexagonEvents& events);
   ColorHexagon(const ColorHexagon&) = delete;
   ColorHexagon& operator=(const ColorHexagon&) = delete;
-  // Runs UserControl_Terminate.
+  // Detaches from the site and runs UserControl_Terminate.
   ~ColorHexagon() override;
 
   // --- properties ------------------------------------------------------------------
@@ -60,12 +63,13 @@ class ColorHexagon : public SurfaceEvents {
   // cell count; 0 for an unknown direction.
   std::int32_t GetNextIndex(std::int32_t index, std::int32_t direction) const;
 
-  // --- life cycle ----------------------------------------------------------------------
+  // --- life cycle: Initialize and Terminate run from the constructor and destructor,
+  // the rest comes from the container through the site ----------------------------------
   void UserControl_Initialize();
-  void UserControl_InitProperties();
-  void UserControl_ReadProperties(const PropertyBag& bag);
-  void UserControl_WriteProperties(PropertyBag& bag) const;
-  void UserControl_Resize();
+  void UserControl_InitProperties() override;
+  void UserControl_ReadProperties(const PropertyBag& bag) override;
+  void UserControl_WriteProperties(PropertyBag& bag) const override;
+  void UserControl_Resize() override;
   void UserControl_Terminate();
 
   // --- input -----------------------------------------------------------------------------

@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <string>
 
+#include "colormodel/ControlEvents.h"
 #include "colormodel/StdFont.h"
 #include "colormodel/Types.h"
 
 namespace lumo {
 
-class ControlEvents;
+class PropertyBag;
 
 // What a control asks of the container it sits in: change notification, the
 // container's ambient properties, and its own outer size and state.
@@ -39,6 +40,23 @@ class ControlSite {
   // is created and detaches when it is destroyed.
   void Attach(ControlEvents* control) { control_ = control; }
   ControlEvents* Control() const { return control_; }
+
+  // Starts the attached control as a container does once it has created it: placed
+  // new (InitProperties) or loaded from a form file (ReadProperties), never both, then
+  // given its place (Resize). Hosted controls on the library's forms start the same way.
+  void StartControl(const PropertyBag* bag) {
+    if (control_ == nullptr) return;
+    if (bag != nullptr) {
+      control_->UserControl_ReadProperties(*bag);
+    } else {
+      control_->UserControl_InitProperties();
+    }
+    if (control_ != nullptr) control_->UserControl_Resize();
+  }
+  // Saves the attached control into a form file's bag.
+  void SaveControl(PropertyBag& bag) const {
+    if (control_ != nullptr) control_->UserControl_WriteProperties(bag);
+  }
 
  private:
   ControlEvents* control_ = nullptr;

@@ -3,6 +3,7 @@
 #include "colormodel/CColorboxEl.h"
 #include "colormodel/CheckedMath.h"
 #include "colormodel/ColorChooser.h"
+#include "colormodel/ControlSite.h"
 #include "colormodel/DrawingSurface.h"
 #include "colormodel/FormWindow.h"
 #include "colormodel/Runtime.h"
@@ -44,8 +45,8 @@ void frmPopup::Load() {
     hexagon_ = std::make_unique<ColorHexagon>(runtime_, window_->Surface(kHexagon),
                                               window_->LabelNamed(std::string(kHexagon) + ".lblOverColor"),
                                               window_->Site(kHexagon), *this);
-    hexagon_->UserControl_InitProperties();
-    hexagon_->UserControl_Resize();
+    // Placed new on the form: its site starts it, as any container starts its control.
+    window_->Site(kHexagon).StartControl(nullptr);
     Form_Load();
   });
 }

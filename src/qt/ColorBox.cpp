@@ -2,8 +2,6 @@
 
 #include <optional>
 
-#include <QShowEvent>
-
 #include "colorbox/ColorBox.h"
 #include "colorbox/ColorBoxEvents.h"
 #include "qt/ControlLifecycle.h"
@@ -89,7 +87,7 @@ void ColorBox::Refresh() { d->core->Refresh(); }
 
 QVariantMap ColorBox::writeProperties() const {
   host::QtPropertyBag bag;
-  d->core->UserControl_WriteProperties(bag);
+  d->site.SaveControl(bag);
   return bag.values();
 }
 
@@ -101,16 +99,5 @@ void ColorBox::readProperties(const QVariantMap& properties) {
 void ColorBox::setDesignMode(bool designing) { d->site.setUserMode(!designing); }
 
 host::SurfaceWidget* ColorBox::surface() const { return d->picScreen; }
-
-void ColorBox::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  if (d) d->core->UserControl_Resize();  // the control snaps back to its content
-}
-
-void ColorBox::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
-  // Shown at run time, the grid takes the mouse so that a press outside it cancels.
-  if (!event->spontaneous() && d->site.AmbientUserMode()) d->core->UserControl_Show();
-}
 
 }  // namespace LumoColorCombo

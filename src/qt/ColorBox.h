@@ -73,10 +73,6 @@ class ColorBox : public QWidget {
   // A persisted property changed; the name is the setter's label ("PickStyle [Let]").
   void propertyChanged(const QString& name);
 
- protected:
-  void resizeEvent(QResizeEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-
  private:
   class Private;
   std::unique_ptr<Private> const d;

@@ -58,8 +58,7 @@ class ColorHexagon::Private {
   }
 
   void Create(const lumo::PropertyBag* bag) {
-    host::StartControl(core, bag, host::QtHost::instance().runtime(), *picScreen, *lblOverColor, site, events)
-        .UserControl_Resize();
+    host::StartControl(core, bag, host::QtHost::instance().runtime(), *picScreen, *lblOverColor, site, events);
   }
 
   host::SurfaceWidget* picScreen;  // owned by the widget
@@ -96,7 +95,7 @@ void ColorHexagon::Refresh() { d->core->Refresh(); }
 
 QVariantMap ColorHexagon::writeProperties() const {
   host::QtPropertyBag bag;
-  d->core->UserControl_WriteProperties(bag);
+  d->site.SaveControl(bag);
   return bag.values();
 }
 
@@ -107,10 +106,5 @@ void ColorHexagon::readProperties(const QVariantMap& properties) {
 
 host::SurfaceWidget* ColorHexagon::surface() const { return d->picScreen; }
 host::QtLabel* ColorHexagon::overColorLabel() const { return d->lblOverColor; }
-
-void ColorHexagon::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  if (d) d->core->UserControl_Resize();  // the control snaps back to its content
-}
 
 }  // namespace LumoColorCombo

@@ -60,9 +60,6 @@ class ColorHexagon : public QWidget {
   void ColorOver(LumoColorCombo::OLE_COLOR Color, const QString& ColorName, qint16 Button, qint16 Shift,
                  qint32 X, qint32 Y);
 
- protected:
-  void resizeEvent(QResizeEvent* event) override;
-
  private:
   class Private;
   std::unique_ptr<Private> const d;

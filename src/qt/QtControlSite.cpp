@@ -1,6 +1,7 @@
 #include "qt/QtControlSite.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFont>
 #include <QKeySequence>
 #include <QShortcut>
@@ -17,7 +18,10 @@ constexpr double kPointsPerPixel = 0.75;
 
 }  // namespace
 
-QtControlSite::QtControlSite(QWidget* widget, QObject* parent) : QObject(parent), widget_(widget) {}
+QtControlSite::QtControlSite(QWidget* widget, QObject* parent) : QObject(parent), widget_(widget) {
+  if (widget_) widget_->installEventFilter(this);
+  if (qApp) connect(qApp, &QApplication::focusChanged, this, &QtControlSite::FocusChanged);
+}
 
 QtControlSite::~QtControlSite() { ClearShortcuts(); }
 
@@ -70,12 +74,61 @@ void QtControlSite::SetAccessKeys(const std::string& keys) {
     connect(shortcut, &QShortcut::activated, this, [this, key] {
       if (widget_) widget_->setFocus(Qt::ShortcutFocusReason);
       emit accessKeyPressed(QString(key));
+      // Last: the control may open a modal window here, during which the site may go.
+      if (lumo::ControlEvents* control = Control()) {
+        control->UserControl_AccessKeyPress(static_cast<std::int16_t>(key.unicode()));
+      }
     });
     shortcuts_.emplace_back(shortcut);
   }
 }
 
 lumo::WindowHandle QtControlSite::hWnd() const { return WidgetHandles::handleOf(widget_); }
+
+// The filter only watches: the widget handles every event as usual afterwards.
+bool QtControlSite::eventFilter(QObject* watched, QEvent* event) {
+  lumo::ControlEvents* control = Control();
+  if (control == nullptr || watched != widget_) return false;
+  switch (event->type()) {
+    case QEvent::Resize:
+      control->UserControl_Resize();
+      break;
+    case QEvent::Show:
+      // A designer shows the control without running it.
+      if (!event->spontaneous() && userMode_) control->UserControl_Show();
+      break;
+    case QEvent::Hide:
+      if (!event->spontaneous()) control->UserControl_Hide();
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+bool QtControlSite::Holds(const QWidget* focus) const {
+  return focus != nullptr && widget_ && (focus == widget_ || widget_->isAncestorOf(focus));
+}
+
+// Moving between the widget and its own children stays inside the control: only Got/
+// LostFocus of the widget itself may change then.
+void QtControlSite::FocusChanged(QWidget* old, QWidget* now) {
+  const bool wasIn = Holds(old);
+  const bool isIn = Holds(now);
+  if (!wasIn && !isIn) return;
+  const bool lost = wasIn && old == widget_ && now != widget_;
+  const bool got = isIn && now == widget_ && old != widget_;
+  // A handler may delete the widget and its site; what follows checks first.
+  const QPointer<QtControlSite> alive(this);
+  const auto deliver = [&](void (lumo::ControlEvents::*handler)()) {
+    if (!alive) return;
+    if (lumo::ControlEvents* control = Control()) (control->*handler)();
+  };
+  if (lost) deliver(&lumo::ControlEvents::UserControl_LostFocus);
+  if (wasIn && !isIn) deliver(&lumo::ControlEvents::UserControl_ExitFocus);
+  if (!wasIn && isIn) deliver(&lumo::ControlEvents::UserControl_EnterFocus);
+  if (got) deliver(&lumo::ControlEvents::UserControl_GotFocus);
+}
 
 void QtControlSite::ClearShortcuts() {
   for (const QPointer<QShortcut>& shortcut : shortcuts_) delete shortcut.data();

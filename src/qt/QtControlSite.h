@@ -8,6 +8,7 @@
 
 #include "colormodel/ControlSite.h"
 
+class QEvent;
 class QFont;
 class QShortcut;
 class QWidget;
@@ -18,6 +19,14 @@ namespace LumoColorCombo::host {
 // twips, its enabled state, the ambient properties of the form it sits on and the
 // change notification, which the widget re-emits as its own signal. The site does not
 // own the widget and is harmless once the widget is gone.
+//
+// It is also the one place that turns the widget's life into the attached control's
+// events (ControlEvents): a resize is UserControl_Resize; being shown or hidden by the
+// application (not by the window system minimising it) is UserControl_Show/Hide, Show
+// only at run time; the focus moving onto the widget or one of its children is
+// EnterFocus (and GotFocus when it is the widget itself), moving away the reverse; an
+// access key is UserControl_AccessKeyPress. A widget an application places and a control
+// hosted on one of the library's forms get exactly the same events this way.
 class QtControlSite : public QObject, public lumo::ControlSite {
   Q_OBJECT
 
@@ -50,12 +59,17 @@ class QtControlSite : public QObject, public lumo::ControlSite {
 
   static lumo::StdFont toStdFont(const QFont& font);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  signals:
   void propertyChanged(const QString& name);
   void accessKeyPressed(const QString& key);
 
  private:
   void ClearShortcuts();
+  void FocusChanged(QWidget* old, QWidget* now);
+  bool Holds(const QWidget* focus) const;
 
   QPointer<QWidget> widget_;
   bool userMode_ = true;
