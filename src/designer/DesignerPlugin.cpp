@@ -7,6 +7,7 @@
 
 #include "qt/ColorBox.h"
 #include "qt/ColorHexagon.h"
+#include "qt/ColorSample.h"
 
 namespace LumoColorCombo::designer {
 namespace {
@@ -27,6 +28,9 @@ const WidgetEntry kWidgets[] = {
     {"LumoColorCombo::ColorHexagon", "qt/ColorHexagon.h", "Honeycomb colour picker",
      "A honeycomb of 127 colour cells and a grey row, with a caption naming the colour under the pointer.",
      "LumoColorCombo", &create<ColorHexagon>},
+    {"LumoColorCombo::ColorSample", "qt/ColorSample.h", "Colour sample",
+     "A sample text in a chosen text colour on a chosen background, to preview a colour pair.",
+     "LumoColorCombo", &create<ColorSample>},
 };
 
 }  // namespace

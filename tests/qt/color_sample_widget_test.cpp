@@ -1,0 +1,146 @@
+// A real ColorSample widget's pixels, and the About box it opens.
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QtTest>
+
+#include "ModalCloser.h"
+#include "colormodel/WindowSystem.h"
+#include "qt/AboutDialog.h"
+#include "qt/ColorSample.h"
+#include "qt/QtHost.h"
+#include "qt/SurfaceWidget.h"
+#include "qt/Version.h"
+#include "qt/WidgetHandles.h"
+
+using LumoColorCombo::ColorSample;
+using LumoColorCombo::host::AboutDialog;
+
+namespace {
+
+// Whether `area` of the sample's drawing is all one colour.
+bool Plain(const ColorSample& s, const QRect& area, const QColor& colour) {
+  QImage plain(area.size(), s.surface()->image().format());
+  plain.fill(colour);
+  return s.surface()->image().copy(area) == plain;
+}
+
+// The bounding box of the text: the pixels inside the frame that are not background.
+QRect Ink(const ColorSample& s) {
+  const QImage& image = s.surface()->image();
+  QRect ink;
+  for (int y = 1; y < image.height() - 1; ++y) {
+    for (int x = 1; x < image.width() - 1; ++x) {
+      if (image.pixel(x, y) != image.pixel(1, 1)) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  return ink;
+}
+
+}  // namespace
+
+// Stands in for the browser: records what it is asked to open.
+class UrlCatcher : public QObject {
+  Q_OBJECT
+ public slots:
+  void open(const QUrl& url) { opened << url; }
+
+ public:
+  QList<QUrl> opened;
+};
+
+class ColorSampleWidgetTest : public QObject {
+  Q_OBJECT
+
+  QWidget form_;  // shown, so that a sample placed on it is resized at once
+
+ private slots:
+  void initTestCase() {
+    form_.resize(400, 200);
+    form_.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form_));
+  }
+
+  void drawsTheTextCentredAndTheOnePixelFrameOnlyForFixedSingle_data() {
+    QTest::addColumn<int>("border");
+    QTest::addColumn<qreal>("points");  // 0: the form's font
+    QTest::addColumn<QColor>("edge");
+    QTest::newRow("defaults: black frame") << 1 << 0.0 << QColor(Qt::black);
+    QTest::newRow("bcNone, 24 pt") << 0 << 24.0 << QColor(Qt::white);
+    QTest::newRow("2 keeps no frame") << 2 << 0.0 << QColor(Qt::white);
+  }
+  void drawsTheTextCentredAndTheOnePixelFrameOnlyForFixedSingle() {
+    QFETCH(int, border);
+    QFETCH(qreal, points);
+    QFETCH(QColor, edge);
+    ColorSample sample(&form_);
+    sample.show();
+    sample.setBorderStyle(LumoColorCombo::KDBorderConstants(border));
+    if (points > 0) sample.setSampleFont(QFont(sample.font().family(), int(points)));
+    const int textWidth = qRound(sample.surface()->TextWidth("Sample Text"));
+    const int textHeight = qRound(sample.surface()->TextHeight("Sample Text"));
+    QRect ink[3];
+    for (int extra = 0; extra < 3; ++extra) {  // slack of 40, 41 and 42 pixels both ways
+      sample.resize(textWidth + 40 + extra, textHeight + 40 + extra);
+      ink[extra] = Ink(sample);
+    }
+    // An odd pixel of slack goes right and below; the glyphs' own bearings aside, the
+    // text starts half the slack in, at its font's size.
+    QCOMPARE(ink[1].topLeft(), ink[0].topLeft());
+    QCOMPARE(ink[2].topLeft(), ink[0].topLeft() + QPoint(1, 1));
+    QVERIFY2(qAbs(ink[0].left() - 20) <= 3 && ink[0].top() >= 20, qPrintable(QString::number(ink[0].left())));
+    const qreal pixels = (points > 0 ? points : sample.Font().pointSizeF()) * 96 / 72;
+    QVERIFY2(ink[0].height() > 0.6 * pixels && ink[0].height() < 1.3 * pixels, qPrintable(QString::number(ink[0].height())));
+    // The frame is the outermost rows and columns only.
+    const int right = sample.width() - 1, bottom = sample.height() - 1;
+    for (const QRect& side : {QRect(0, 0, right, 1), QRect(1, bottom, right, 1), QRect(0, 1, 1, bottom), QRect(right, 0, 1, bottom)}) {
+      QVERIFY(Plain(sample, side, edge));
+    }
+    QVERIFY(Plain(sample, QRect(1, 1, right - 1, 1), Qt::white));
+  }
+
+  void aboutBoxShowsTheVersionsAndSystemInfoAndOpensTheReleasesPage() {
+    ColorSample sample(&form_);
+    UrlCatcher browser;
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "open");
+    QString shown, info;
+    ModalCloser<AboutDialog> closer([&](AboutDialog& dialog) {
+      QVERIFY(dialog.isModal());
+      QCOMPARE(dialog.parentWidget(), &form_);
+      for (const QLabel* label : dialog.findChildren<QLabel*>()) shown += label->text();
+      QTest::mouseClick(dialog.findChild<QPushButton*>("systemInfo"), Qt::LeftButton);
+      info = dialog.findChild<QPlainTextEdit*>("systemInfoText")->toPlainText();
+      for (const char* button : {"copy", "checkForUpdates", "ok"}) {
+        QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
+      }
+    });
+    sample.AboutBox();
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+
+    QVERIFY(closer.acted());
+    QVERIFY(shown.contains(QStringLiteral("LumoColorCombo " LUMOCOLORCOMBO_VERSION_STR)));
+    QVERIFY(shown.contains(QStringLiteral("Qt %1").arg(qVersion())));
+    for (const char* fact : {"LumoColorCombo " LUMOCOLORCOMBO_VERSION_STR, "Qt platform plugin: offscreen",
+                             "device pixel ratio 1", "Style: "}) {
+      QVERIFY2(info.contains(QLatin1String(fact)), fact);
+    }
+    QCOMPARE(QGuiApplication::clipboard()->text(), info);
+    QCOMPARE(browser.opened, QList<QUrl>{QUrl(QStringLiteral(LUMOCOLORCOMBO_RELEASES_URL))});
+    QVERIFY(form_.findChildren<AboutDialog*>().isEmpty());  // gone once closed
+  }
+
+  void aboutBoxSurvivesTheHostDeletingItsWindow() {
+    auto* window = new QWidget;
+    auto* owner = new QWidget(window);
+    window->show();
+    ModalCloser<AboutDialog> closer([&](AboutDialog&) { delete window; });
+    LumoColorCombo::host::QtHost::instance().runtime().Windows().ShowAboutBox(
+        LumoColorCombo::host::WidgetHandles::handleOf(owner));
+    QVERIFY(closer.acted());
+  }
+};
+
+QTEST_MAIN(ColorSampleWidgetTest)
+#include "color_sample_widget_test.moc"
