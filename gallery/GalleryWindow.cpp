@@ -16,6 +16,7 @@
 
 #include "EventLog.h"
 #include "PaletteSettings.h"
+#include "SamplePage.h"
 #include "qt/ColorBox.h"
 #include "qt/ColorHexagon.h"
 #include "qt/MoreColorsDialog.h"
@@ -62,6 +63,7 @@ GalleryWindow::GalleryWindow(QWidget* parent)
   setWindowTitle(tr("LumoColorCombo Gallery"));
   tabs_->addTab(buildPalettesPage(), tr("Palettes"));
   tabs_->addTab(buildHoneycombPage(), tr("Honeycomb"));
+  tabs_->addTab(new SamplePage(log_, this), tr("Sample"));
   setCentralWidget(tabs_);
   buildLogDock();
   buildToolBar();

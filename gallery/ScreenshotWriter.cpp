@@ -10,6 +10,7 @@
 #include "GalleryWindow.h"
 #include "qt/ColorBox.h"
 #include "qt/ColorHexagon.h"
+#include "qt/ColorSample.h"
 
 ScreenshotWriter::ScreenshotWriter(GalleryWindow& window, const QString& folder)
     : window_(window), folder_(folder) {
@@ -23,6 +24,8 @@ int ScreenshotWriter::writeAll() {
   writePalettes();
   writeHoneycomb();
   writeDialog();
+  writeSample();
+  writeAboutBox();
   window_.setDarkTheme(true);
   settle();
   writePages(QStringLiteral("-dark"));
@@ -82,4 +85,30 @@ void ScreenshotWriter::writeDialog() {
     dialog->close();
   });
   window_.runMoreColors(QStringLiteral("Screenshots"), 0x3399FF, false);
+}
+
+void ScreenshotWriter::writeSample() {
+  auto* sample = window_.findChild<LumoColorCombo::ColorSample*>();
+  if (sample == nullptr) return;
+  QTabWidget* tabs = window_.tabs();
+  for (int i = 0; i < tabs->count(); ++i) {
+    if (tabs->widget(i)->isAncestorOf(sample)) tabs->setCurrentIndex(i);
+  }
+  settle();
+  save(sample->grab(), QStringLiteral("sample"));
+  tabs->setCurrentIndex(0);
+}
+
+void ScreenshotWriter::writeAboutBox() {
+  auto* sample = window_.findChild<LumoColorCombo::ColorSample*>();
+  if (sample == nullptr) return;
+  // Modal, like the More Colors dialog: photographed and closed from its own loop.
+  QTimer::singleShot(0, [this] {
+    QWidget* box = QApplication::activeModalWidget();
+    if (box == nullptr) return;
+    settle();
+    save(box->grab(), QStringLiteral("about-box"));
+    box->close();
+  });
+  sample->AboutBox();
 }

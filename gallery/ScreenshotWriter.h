@@ -6,7 +6,7 @@
 class GalleryWindow;
 
 // Writes PNG screenshots of the gallery: each page, each palette, the honeycomb, the
-// "More Colors" dialog, and the palettes again under a dark theme.
+// "More Colors" dialog, the sample box, the About box, and the pages again under a dark theme.
 class ScreenshotWriter {
  public:
   ScreenshotWriter(GalleryWindow& window, const QString& folder);
@@ -21,6 +21,8 @@ class ScreenshotWriter {
   void writePalettes();
   void writeHoneycomb();
   void writeDialog();
+  void writeSample();
+  void writeAboutBox();
 
   GalleryWindow& window_;
   QDir folder_;
