@@ -324,9 +324,7 @@ void ColorCombo::UserControl_WriteProperties(PropertyBag& bag) const {
 }
 
 // The height follows the font and is never the user's: one twip more than the pixel
-// height, so that the host's rounding never loses the last row. The drop button's
-// rectangle is settled here too, so that a style without a drop button still opens
-// its drop-down under the field.
+// height, so that the host's rounding never loses the last row.
 void ColorCombo::UserControl_Resize() {
   if (m_Resizing) return;  // the Size below may come back as another resize
   CommonGlobals::IgnoreErrors([&] {
@@ -334,7 +332,6 @@ void ColorCombo::UserControl_Resize() {
     const std::int32_t height = GetHeight();
     site_.Size(site_.Width(), checked::Add(Twips(height), 1));
     picScreen.Move(0, 0, site_.Width(), Twips(height));
-    m_ButtonRect = ButtonRect();
     Refresh();
   });
 }
@@ -405,6 +402,9 @@ void ColorCombo::Refresh() {
     // A disabled control stays selectable in a form designer.
     site_.SetEnabled(UserMode() ? m_Enabled : true);
     picScreen.Cls();
+    // Settled for every style, so that one without a drop button still opens its
+    // drop-down under the field.
+    m_ButtonRect = ButtonRect();
     switch (m_Style) {
       case cscCombobox: DrawFrameCB(); break;
       case cscDropDown: DrawFrameDD(); break;
@@ -449,19 +449,20 @@ void ColorCombo::DrawDropButton(bool pressed) {
   });
 }
 
-// The frames draw the button released: a redraw is how a host that cancelled a pick
-// gets the released look back.
+// The frames draw the button pressed only while the drop-down is open, so a preview's
+// redraw keeps the look; otherwise released, which is how a host that cancelled a
+// pick gets the released look back.
 void ColorCombo::DrawFrameDD() {
   Trap("DrawFrameDD", [&] {
     painter_.RaisedEdge();
-    DrawDropButton(false);
+    DrawDropButton(m_DroppedDown);
   });
 }
 
 void ColorCombo::DrawFrameCB() {
   Trap("DrawFrameCB", [&] {
     painter_.SunkenField(picScreen.ScaleWidth(), GetHeight());
-    DrawDropButton(false);
+    DrawDropButton(m_DroppedDown);
   });
 }
 

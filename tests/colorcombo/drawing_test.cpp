@@ -1,0 +1,265 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <tuple>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ComboHarness.h"
+#include "colorcombo/ComboPainter.h"
+#include "colormodel/Enums.h"
+
+namespace lumo {
+namespace {
+
+using testing::ComboHarness;
+using testing::Dropdown;
+using testing::SurfaceCall;
+using Args = std::vector<std::int32_t>;
+using PenLines = std::vector<std::pair<Args, OLE_COLOR>>;
+
+constexpr OLE_COLOR kLight = SystemColor(22), kDarkShadow = SystemColor(21);
+
+PenLines LinesOf(const std::vector<SurfaceCall>& calls, std::optional<OLE_COLOR> pen = std::nullopt) {
+  PenLines lines;
+  for (const auto& c : calls) {
+    if (c.Op == "Line" && (!pen || c.ForeColor == *pen)) lines.emplace_back(c.Args, c.ForeColor);
+  }
+  return lines;
+}
+
+// --- frames and drop button per style ----------------------------------------------------------
+
+struct StyleLook {
+  std::int32_t style;
+  std::int32_t buttonWidth;
+  bool edgeRoundTheField;
+  bool separator;
+  std::vector<OLE_COLOR> framePens;  // outer, inner top/left; outer, inner bottom/right
+};
+void PrintTo(const StyleLook& s, std::ostream* os) { *os << "Style" << s.style; }
+
+class Styles : public ComboHarness, public ::testing::WithParamInterface<StyleLook> {};
+
+TEST_P(Styles, DrawTheirFrameAndDropButton) {
+  const StyleLook& s = GetParam();
+  combo->SetStyle(s.style);
+  surface.ClearCalls();
+  combo->Refresh();
+  const std::int32_t w = kWidth, h = combo->GetHeight();
+  const Rect b = combo->DropButtonRect();
+  EXPECT_EQ(b, (Rect{w - s.buttonWidth - 2, 2, w - 2, h - 1}));
+  const auto edges = surface.CallsOf("DrawEdge");
+  const bool button = s.buttonWidth > 0;
+  ASSERT_EQ(edges.size(), (s.edgeRoundTheField ? 1u : 0u) + (button ? 1u : 0u));
+  if (s.edgeRoundTheField) EXPECT_EQ(edges.front().Args, (Args{0, 0, w, h, edge::Raised, edge::AllSides}));
+  if (button) EXPECT_EQ(edges.back().Args, (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Raised, edge::AllSides}));
+
+  PenLines expected;
+  if (s.separator) {
+    expected = {{{b.Left - 1, 2, b.Left - 1, b.Bottom}, sys::ButtonShadow},
+                {{b.Left, 2, b.Left, b.Bottom}, sys::ButtonHighlight}};
+  } else if (!s.framePens.empty()) {
+    const auto& p = s.framePens;
+    expected = {{{0, 0, w, 0}, p[0]},         {{0, 0, 0, h}, p[0]},         {{1, 1, w - 1, 1}, p[1]},
+                {{1, 1, 1, h - 2}, p[1]},     {{0, h - 1, w - 1, h - 1}, p[2]}, {{w - 1, 0, w - 1, h - 1}, p[2]},
+                {{1, h - 2, w - 1, h - 2}, p[3]}, {{w - 2, 1, w - 2, h - 2}, p[3]}};
+  }
+  auto lines = LinesOf(surface.Calls);
+  lines.erase(std::remove_if(lines.begin(), lines.end(), [](const auto& l) { return l.second == 0; }), lines.end());
+  EXPECT_EQ(lines, expected);  // the black arrow aside
+  // Whatever the frame, the colour bar is drawn and the whole shown.
+  EXPECT_EQ(surface.CallsOf("Rectangle").at(button ? 1 : 0).Args, (Args{8, 4, w - s.buttonWidth - 8, h - 4}));
+  EXPECT_EQ(surface.Calls.back().Op, "Refresh");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EachStyle, Styles,
+    ::testing::Values(
+        StyleLook{cscDropDown, 13, true, true, {}},
+        StyleLook{cscCombobox, 13, false, false, {sys::ButtonShadow, kDarkShadow, sys::ButtonHighlight, kLight}},
+        StyleLook{cscButton, 0, false, false, {sys::ButtonHighlight, kLight, sys::ButtonShadow, kDarkShadow}},
+        StyleLook{cscButtonNoText, 0, false, false, {sys::ButtonHighlight, kLight, sys::ButtonShadow, kDarkShadow}},
+        StyleLook{5, 0, false, false, {}}),
+    [](const auto& info) { return "Style" + std::to_string(info.param.style); });
+
+// The arrow is centred with halves truncated toward zero: in the 13 x 18 button it
+// starts one pixel left of the button and one below its top.
+TEST_F(ComboHarness, DropButtonIsSunkenWhileOpenAndRaisedAfterWithTheArrowCentred) {
+  const Rect b = combo->DropButtonRect();
+  const auto lastEdge = [&] { return surface.CallsOf("DrawEdge").back().Args; };
+  Open([&](Dropdown& d) {
+    EXPECT_EQ(lastEdge(), (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Sunken, edge::AllSides}));
+    d.Hover(testing::kWhite);  // a preview's redraw keeps the pressed look
+    EXPECT_EQ(lastEdge(), (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Sunken, edge::AllSides}));
+    d.form.Deactivate();
+  });
+  EXPECT_EQ(lastEdge(), (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Raised, edge::AllSides}));
+  const auto arrow = LinesOf(surface.Calls, 0);
+  const std::int32_t x = b.Left - 1, y = b.Top + 1;
+  ASSERT_GE(arrow.size(), 3u);
+  EXPECT_EQ(PenLines(arrow.end() - 3, arrow.end()),
+            (PenLines{{{x, y, x + 5, y}, 0}, {{x + 1, y + 1, x + 4, y + 1}, 0}, {{x + 2, y + 2, x + 3, y + 2}, 0}}));
+}
+
+// One line per run of one colour on one row; the pen, its width and position stay.
+TEST(PaintPicture, DrawsEachRunOfOneColourAsOneLineAndKeepsThePen) {
+  testing::RecordingSurface surface;
+  DrawingSurface& target = surface;
+  target.SetForeColor(0x123456);
+  target.SetDrawWidth(3);
+  target.MoveToEx(7, 7);
+  target.PaintPicture(Picture{4, 2, {{0, 0, 0xFF}, {1, 0, 0xFF}, {2, 0, 0xF0}, {3, 0, 0xF0}, {1, 1, 0xFF}, {3, 1, 0xFF}}},
+                      10, 20);
+  EXPECT_EQ(LinesOf(surface.Calls), (PenLines{{{10, 20, 12, 20}, 0xFF},
+                                              {{12, 20, 14, 20}, 0xF0},
+                                              {{11, 21, 12, 21}, 0xFF},
+                                              {{13, 21, 14, 21}, 0xFF}}));
+  EXPECT_EQ(surface.Calls.front().DrawWidth, 1);
+  EXPECT_EQ(std::tuple(target.ForeColor(), target.DrawWidth(), target.PenPosition()),
+            std::tuple(0x123456, 3, Point{7, 7}));
+}
+
+// --- the colour bar ------------------------------------------------------------------------------
+
+struct BarCase {
+  const char* name;
+  std::function<void(ColorCombo&, testing::RecordingSite&)> setup;
+  bool square;  // the colour box is a square at the left end, else the whole bar
+  bool boxed;
+  OLE_COLOR swatch;
+  std::string text;
+  OLE_COLOR textColor;
+};
+void PrintTo(const BarCase& c, std::ostream* os) { *os << c.name; }
+
+class ColourBar : public ComboHarness, public ::testing::WithParamInterface<BarCase> {};
+
+TEST_P(ColourBar, ShowsTheColourOrTheAutomaticChoiceWithItsText) {
+  const BarCase& c = GetParam();
+  combo->SetForeColor(0x1234);
+  combo->SetAutoColor(0x5678);
+  c.setup(*combo, site);
+  surface.ClearCalls();
+  combo->Refresh();
+  const std::int32_t right = kWidth - combo->GetButtonWidth() - 8, bottom = combo->GetHeight() - 4;
+  const std::int32_t squareRight = 8 + bottom - 4;
+  std::vector<SurfaceCall> boxes;
+  for (const auto& r : surface.CallsOf("Rectangle")) {
+    if (r.ForeColor == sys::HighlightText) boxes.push_back(r);
+  }
+  ASSERT_EQ(boxes.size(), c.boxed ? 1u : 0u);
+  if (c.boxed) {
+    EXPECT_EQ(boxes[0].Args, (Args{8, 4, c.square ? squareRight : right, bottom}));
+    EXPECT_EQ(std::pair(boxes[0].FillColor, boxes[0].FillStyle), std::pair(c.swatch, fill::Solid));
+  }
+  const auto texts = surface.CallsOf("DrawTextA");
+  ASSERT_EQ(texts.size(), c.text.empty() ? 0u : 1u);
+  if (!c.text.empty()) {
+    EXPECT_EQ(texts[0].Text, c.text);
+    EXPECT_EQ(texts[0].Args, (Args{squareRight + 4, 4, right, bottom, 0}));
+    EXPECT_EQ(texts[0].ForeColor, c.textColor);
+  }
+  EXPECT_EQ(surface.FillStyle(), fill::Transparent);
+  EXPECT_EQ(site.Enabled, c.textColor != sys::GrayText);  // a designer keeps it selectable
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EachLook, ColourBar,
+    ::testing::Values(
+        BarCase{"Automatic", [](ColorCombo&, auto&) {}, true, true, 0x5678, "Automatic", 0x1234},
+        BarCase{"AutomaticWithoutColourBox", [](ColorCombo& c, auto&) { c.SetAllowAutoColorBox(false); }, true,
+                false, 0, "Automatic", 0x1234},
+        BarCase{"Colour", [](ColorCombo& c, auto&) { c.SetIsAutomatic(false); }, false, true, 0x663300, "", 0},
+        BarCase{"ButtonCaption",
+                [](ColorCombo& c, auto&) {
+                  c.SetIsAutomatic(false);
+                  c.SetStyle(cscButton);
+                  c.SetCaption("&Fill");
+                },
+                true, true, 0x663300, "&Fill", 0x1234},
+        BarCase{"DisabledAtRunTime", [](ColorCombo& c, auto&) { c.SetEnabled(false); }, true, true, 0x5678,
+                "Automatic", sys::GrayText},
+        BarCase{"DisabledInADesigner",
+                [](ColorCombo& c, testing::RecordingSite& s) {
+                  s.UserMode = false;
+                  c.SetEnabled(false);
+                },
+                true, true, 0x5678, "Automatic", 0x1234}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(ComboHarness, ColourSetFromCodeRedrawsOnlyTheBarAndRaisesNothing) {
+  combo->SetIsAutomatic(false);
+  surface.ClearCalls();
+  combo->SetColor(0xFF);
+  EXPECT_EQ(surface.CountOf("Cls") + surface.CountOf("DrawEdge"), 0);
+  EXPECT_EQ(surface.CallsOf("Rectangle").back().FillColor, 0xFF);
+  EXPECT_EQ(surface.Calls.back().Op, "Refresh");
+  EXPECT_TRUE(Log.empty());
+}
+
+TEST_F(ComboHarness, FocusMarkFramesTheBarWhileFocusedAndNotDroppedDown) {
+  const auto marks = [&] {
+    surface.ClearCalls();
+    combo->Refresh();
+    return surface.CallsOf("DrawFocusRect");
+  };
+  combo->UserControl_EnterFocus();
+  ASSERT_EQ(marks().size(), 1u);
+  EXPECT_EQ(marks().at(0).Args, (Args{4, 2, kWidth - 13 - 4, combo->GetHeight() - 2}));
+  Open([&](Dropdown& d) {
+    EXPECT_TRUE(marks().empty());
+    d.form.Deactivate();
+  });
+  combo->UserControl_ExitFocus();
+  EXPECT_TRUE(marks().empty());
+}
+
+// --- height and access key ------------------------------------------------------------------------
+
+class Height : public ComboHarness, public ::testing::WithParamInterface<std::pair<double, std::int32_t>> {};
+
+// The text height of "A" plus 8, rounded half to even; the user's height never sticks.
+TEST_P(Height, FollowsTheFontAndNeverTheUser) {
+  const auto [lineHeight, pixels] = GetParam();
+  surface.LineHeight = lineHeight;
+  combo->SetFont(StdFont{"Big", 20});
+  EXPECT_EQ(site.HeightTwips, pixels * 15 + 1);
+  EXPECT_EQ(surface.CallsOf("Move").back().Args, (Args{0, 0, kWidth * 15, pixels * 15}));
+  EXPECT_EQ(combo->DropButtonRect().Bottom, pixels - 1);
+  site.Size(site.WidthTwips, 5000);
+  combo->UserControl_Resize();
+  EXPECT_EQ(site.HeightTwips, pixels * 15 + 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(FontSizes, Height,
+                         ::testing::Values(std::pair{13.0, 21}, std::pair{20.5, 28}, std::pair{21.5, 30}));
+
+struct AccessKey {
+  std::int32_t style;
+  const char* caption;
+  const char* key;
+};
+void PrintTo(const AccessKey& a, std::ostream* os) { *os << a.style << " " << a.caption; }
+
+class AccessKeys : public ComboHarness, public ::testing::WithParamInterface<AccessKey> {};
+
+TEST_P(AccessKeys, OnlyAButtonShowingItsCaptionTakesTheCharacterAfterTheFirstAmpersand) {
+  site.AccessKeys = "x";
+  combo->SetStyle(GetParam().style);
+  combo->SetCaption(GetParam().caption);
+  EXPECT_EQ(site.AccessKeys, GetParam().key);
+}
+
+INSTANTIATE_TEST_SUITE_P(Captions, AccessKeys,
+                         ::testing::Values(AccessKey{cscButton, "&Colour", "C"}, AccessKey{cscButton, "Co&l&our", "l"},
+                                           AccessKey{cscButton, "Colour&", ""}, AccessKey{cscButton, "Colour", ""},
+                                           AccessKey{cscButtonNoText, "&Colour", ""},
+                                           AccessKey{cscDropDown, "&Colour", ""}));
+
+}  // namespace
+}  // namespace lumo

@@ -1,0 +1,275 @@
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ComboHarness.h"
+#include "colormodel/Enums.h"
+#include "colormodel/FormWindow.h"
+
+namespace lumo {
+namespace {
+
+using testing::ComboHarness;
+using testing::Dropdown;
+using testing::Lines;
+using testing::TestForm;
+using testing::User;
+using testing::kBlack, testing::kGreen, testing::kWhite, testing::kGreenColor, testing::kWhiteColor;
+
+const User kPickGreen = [](Dropdown& d) { d.Pick(kGreen); };
+const Lines kNoChange{"BeforeDropDown", "AfterDropUp"};
+
+// --- what each kind of pick raises ------------------------------------------------------
+
+struct Pick {
+  const char* name;
+  bool startAutomatic;
+  OLE_COLOR startColor;
+  User user;
+  std::string cancelIn;
+  Lines events;
+  bool endAutomatic;
+  OLE_COLOR endColor;
+};
+void PrintTo(const Pick& p, std::ostream* os) { *os << p.name; }
+
+class PickEvents : public ComboHarness, public ::testing::WithParamInterface<Pick> {};
+
+// A cancel in BeforeDropDown shows nothing; one in a later Before event leaves the
+// button drawn pressed, on purpose.
+TEST_P(PickEvents, RaiseTheEventsOfThePickInOrderAndApplyIt) {
+  const Pick& p = GetParam();
+  combo->SetIsAutomatic(p.startAutomatic);
+  combo->SetColor(p.startColor);
+  CancelIn = p.cancelIn;
+  Open(p.user);
+  EXPECT_EQ(Log, p.events);
+  EXPECT_EQ(combo->IsAutomatic(), p.endAutomatic);
+  EXPECT_EQ(text::Hex(combo->Color()), text::Hex(p.endColor));
+  EXPECT_EQ(combo->DropButtonPressed(), p.cancelIn.find("Changed") != std::string::npos);
+  EXPECT_EQ(host.Windows.LoadedForms.empty(), p.cancelIn == "BeforeDropDown");
+  EXPECT_TRUE(host.Messages.Shown.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EachKindOfPick, PickEvents,
+    ::testing::Values(
+        Pick{"NewColourWhileAutomatic", true, 0x663300, kPickGreen, "",
+             {"BeforeDropDown", "BeforeIsAutomaticChanged False", "AfterIsAutomaticChanged False",
+              "BeforeColorChanged 8200", "AfterColorChanged 8200", "AfterDropUp"},
+             false, kGreenColor},
+        Pick{"AutomaticWhileAColourIsInForce", false, kGreenColor, [](Dropdown& d) { d.Press(d.Automatic()); }, "",
+             {"BeforeDropDown", "BeforeIsAutomaticChanged True", "AfterIsAutomaticChanged True", "AfterDropUp"}, true,
+             kGreenColor},
+        Pick{"TheColourAlreadyInForce", false, kGreenColor, kPickGreen, "", kNoChange, false, kGreenColor},
+        Pick{"OneThatOnlyUndoesAPreview", false, kGreenColor,
+             [](Dropdown& d) {
+               d.Hover(kWhite);
+               d.Pick(kGreen);  // released over green without moving there first
+             },
+             "", {"BeforeDropDown", "BeforeColorChanged 8200", "AfterDropUp"}, false, kGreenColor},
+        Pick{"CancelledBeforeDropDown", true, 0x663300, kPickGreen, "BeforeDropDown", {"BeforeDropDown"}, true,
+             0x663300},
+        Pick{"CancelledBeforeIsAutomaticChanged", true, 0x663300, kPickGreen, "BeforeIsAutomaticChanged",
+             {"BeforeDropDown", "BeforeIsAutomaticChanged False"}, true, 0x663300},
+        Pick{"CancelledBeforeColorChanged", false, 0x663300, kPickGreen, "BeforeColorChanged",
+             {"BeforeDropDown", "BeforeColorChanged 8200"}, false, 0x663300}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+// --- the record each way of closing leaves --------------------------------------------------
+
+struct Closing {
+  const char* name;
+  User user;
+  std::vector<Variant> record;
+  Lines events;
+};
+void PrintTo(const Closing& c, std::ostream* os) { *os << c.name; }
+
+class ClosingWays : public ComboHarness, public ::testing::WithParamInterface<Closing> {};
+
+// Every way starts from green with white previewed under the pointer.
+TEST_P(ClosingWays, LeaveTheirRecordAndPutBackThePreview) {
+  combo->SetIsAutomatic(false);
+  combo->SetColor(kGreenColor);
+  host.Chooser.NextChoice = 0xFF;  // for the dialog's Custom button
+  Open([](Dropdown& d) {
+    d.Hover(kWhite);
+    GetParam().user(d);
+  });
+  EXPECT_EQ(host.Runtime.PopupResult(), GetParam().record);
+  EXPECT_EQ(Log, GetParam().events);
+  EXPECT_FALSE(LastDropdown()->ModalLeftOpen);
+  EXPECT_EQ(Shared(), nullptr);
+  EXPECT_EQ(host.Windows.Capture, 0u);
+  EXPECT_TRUE(host.Messages.Shown.empty());
+}
+
+// The More Colors dialog runs over the drop-down, which stays open while the dialog
+// has the activation.
+User MoreColors(std::function<void(TestForm&)> dialogUser) {
+  return [dialogUser](Dropdown& d) {
+    d.host.Windows.ScriptModal("frmPopup", [&d, dialogUser](TestForm& dialog) {
+      d.form.Deactivate();
+      EXPECT_TRUE(d.form.IsLoaded());
+      dialogUser(dialog);
+    });
+    d.Press(d.MoreColors());
+  };
+}
+
+const std::vector<Variant> kCancelled{Variant(false)};
+
+INSTANTIATE_TEST_SUITE_P(
+    EachWay, ClosingWays,
+    ::testing::Values(
+        Closing{"PickingACell", [](Dropdown& d) { d.Pick(kBlack); },
+                {Variant(true), Variant(0), Variant(false), Variant("Black")},
+                {"BeforeDropDown", "BeforeColorChanged 0", "AfterColorChanged 0", "AfterDropUp"}},
+        Closing{"Escape", [](Dropdown& d) { d.grid.Key(keycode::Escape); }, kCancelled, kNoChange},
+        Closing{"PressOutside", [](Dropdown& d) { d.grid.MouseDown(-5, -5); }, kCancelled, kNoChange},
+        Closing{"F4", [](Dropdown& d) { d.form.PressKey(keycode::F4); }, kCancelled, kNoChange},
+        Closing{"Deactivation", [](Dropdown& d) { d.form.Deactivate(); }, kCancelled, kNoChange},
+        Closing{"ActivationWatch",
+                [](Dropdown& d) {
+                  d.host.Windows.ActiveWindow = d.form.hWnd();
+                  d.host.Timers.FireEnabled();
+                  EXPECT_TRUE(d.form.IsLoaded());
+                  d.host.Windows.ActiveWindow = 0x77;  // another application's window
+                  d.host.Timers.FireEnabled();
+                },
+                kCancelled, kNoChange},
+        Closing{"MoreColorsOk",
+                MoreColors([](TestForm& dialog) {
+                  dialog.ClickControl("cmdCustom");
+                  dialog.ClickControl("cmdButton", 0);
+                }),
+                {Variant(true), Variant(0xFF), Variant(false), Variant(""), Variant()},
+                {"BeforeDropDown", "BeforeColorChanged FF", "AfterColorChanged FF", "AfterDropUp"}},
+        Closing{"MoreColorsCancel", MoreColors([](TestForm& dialog) { dialog.ClickControl("cmdButton", 1); }),
+                {Variant(false), Variant(), Variant(), Variant(), Variant()}, kNoChange}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+// A cancel on the grid's focus loss writes no record: the previous cycle's is applied
+// again, and a record that was never filled is a reported failure.
+TEST_F(ComboHarness, FocusLossReappliesThePreviousRecord) {
+  Open([](Dropdown& d) { d.grid.LoseFocus(); });
+  EXPECT_EQ(Reported(), Lines{"PressButton"});
+  EXPECT_EQ(host.Messages.Shown.at(0).Prompt.rfind("Error Number: 9\r\nModule: LumoDropdown", 0), 0u);
+  EXPECT_EQ(Log, Lines{"BeforeDropDown"});
+
+  Open(kPickGreen);
+  combo->SetColor(kWhiteColor);
+  Log.clear();
+  Open([](Dropdown& d) { d.grid.LoseFocus(); });
+  EXPECT_EQ(Log, (Lines{"BeforeDropDown", "BeforeColorChanged 8200", "AfterColorChanged 8200", "AfterDropUp"}));
+  EXPECT_EQ(combo->LastColorName(), "Green");
+}
+
+// --- hot tracking ----------------------------------------------------------------------------
+
+class HotTracking : public ComboHarness, public ::testing::WithParamInterface<bool> {};
+
+TEST_P(HotTracking, PreviewsSilentlyAndPutsOnlyTheColourBack) {
+  const bool on = GetParam();
+  combo->SetAllowHotTracking(on);
+  combo->SetIsAutomatic(false);
+  combo->SetColor(kGreenColor);
+  Open([&](Dropdown& d) {
+    d.Hover(kWhite);
+    EXPECT_EQ(combo->Color(), on ? kWhiteColor : kGreenColor);
+    d.Hover(d.Automatic());
+    EXPECT_EQ(combo->IsAutomatic(), on);
+    d.Hover(kBlack);
+    EXPECT_EQ(combo->Color(), on ? 0 : kGreenColor);
+    EXPECT_FALSE(combo->IsAutomatic());
+    d.Hover(d.Automatic());
+    EXPECT_EQ(Log, Lines{"BeforeDropDown"});
+    d.grid.Key(keycode::Escape);
+  });
+  EXPECT_EQ(Log, kNoChange);
+  EXPECT_EQ(combo->Color(), kGreenColor);
+  EXPECT_EQ(combo->IsAutomatic(), on);  // kept on purpose: a previewed automatic state stays
+}
+
+INSTANTIATE_TEST_SUITE_P(OnAndOff, HotTracking, ::testing::Bool());
+
+// --- placing and opening the window -------------------------------------------------------------
+
+class Opening : public ComboHarness,
+                public ::testing::WithParamInterface<std::pair<OpenEffectConstants, bool>> {};
+
+// Without an effect the window opens under the field, or above its lower edge where the
+// screen ends. The slide keeps its full width and grows down, the unfold grows both
+// ways, in a hundred painted rounds; all end at exactly the size laid out.
+TEST_P(Opening, PlacesTheWindowAndGrowsItToItsFullSize) {
+  const auto [effect, nearBottom] = GetParam();
+  const std::int32_t top = (400 + combo->GetHeight() - 1) * TwipsPerPixel;
+  if (nearBottom) host.Windows.ScreenHeightTwips = top + 1000;
+  combo->SetOpenEffect(effect);
+  combo->SetPickStyle(cpsPalette40);
+  std::vector<std::int32_t> widths, heights;
+  host.Windows.OnDoEvents = [&] {
+    widths.push_back(LastDropdown()->Width());
+    heights.push_back(LastDropdown()->Height());
+  };
+  Open([&](Dropdown& d) {
+    const ControlSite& box = d.form.Site("ColorBox1");
+    EXPECT_EQ(d.box.PickStyle(), cpsPalette40);
+    EXPECT_EQ(d.form.Width(), box.Width() + 2 * TestForm::BorderTwips);
+    EXPECT_EQ(d.form.Height(), box.Height() + 2 * TestForm::BorderTwips);
+    EXPECT_EQ(d.form.Left(), 300 * TwipsPerPixel);
+    EXPECT_EQ(d.form.Top(), nearBottom ? top - d.form.Height() : top);
+    combo->UserControl_KeyDown(keycode::Down, 0);  // no second drop-down while one is open
+    EXPECT_EQ(Log, Lines{"BeforeDropDown"});
+    d.form.Deactivate();
+  });
+  EXPECT_EQ(widths.size(), effect == oecNone ? 0u : 100u);
+  if (widths.empty()) return;
+  EXPECT_LT(heights.front(), heights.back());
+  EXPECT_EQ(widths.front() < widths.back(), effect == oecUnfold);
+}
+
+INSTANTIATE_TEST_SUITE_P(EffectsAndScreenEdge, Opening,
+                         ::testing::Values(std::pair{oecNone, false}, std::pair{oecNone, true},
+                                           std::pair{oecSlide, false}, std::pair{oecUnfold, false}));
+
+TEST_F(ComboHarness, AClickElsewhereDuringTheAnimationEndsIt) {
+  combo->SetOpenEffect(oecUnfold);
+  host.Windows.OnDoEvents = [&] {
+    if (host.Windows.DoEventsCalls == 10) LastDropdown()->Deactivate();
+  };
+  Open(nullptr);
+  EXPECT_EQ(host.Windows.DoEventsCalls, 10);
+  EXPECT_EQ(Log, kNoChange);
+}
+
+// --- the host destroys the control mid-cycle ---------------------------------------------------
+
+class Destroyed : public ComboHarness, public ::testing::WithParamInterface<const char*> {};
+
+// A new colour picked while automatic raises all four Before/After events.
+TEST_P(Destroyed, EndsTheCycleQuietly) {
+  const std::string where = GetParam();
+  if (where != "modal") DeleteIn = where;
+  Open([&](Dropdown& d) {
+    if (where == "modal") {
+      combo.reset();
+      d.Hover(kBlack);  // the relay outlives the control and reaches nobody
+    }
+    d.Pick(kGreen);
+  });
+  EXPECT_EQ(combo, nullptr);
+  EXPECT_EQ(Log.back().substr(0, Log.back().find(' ')), where == "modal" ? "BeforeDropDown" : where);
+  EXPECT_TRUE(host.Messages.Shown.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(InEachHandlerAndWhileOpen, Destroyed,
+                         ::testing::Values("BeforeDropDown", "BeforeIsAutomaticChanged", "AfterIsAutomaticChanged",
+                                           "BeforeColorChanged", "AfterColorChanged", "modal"));
+
+}  // namespace
+}  // namespace lumo
