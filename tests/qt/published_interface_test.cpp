@@ -1,0 +1,142 @@
+// What a host enumerating the widgets' meta-objects finds: the published members and
+// events in their order, by-reference arguments as references, the enumerations, and
+// properties that each reach their own control member and survive the form file.
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QtTest>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "colormodel/TypeLibrary.h"
+#include "qt/ColorBox.h"
+#include "qt/ColorHexagon.h"
+
+namespace {
+
+struct Widget {
+  const QMetaObject* meta;
+  std::function<std::unique_ptr<QWidget>()> make;
+  std::function<QVariantMap(const QWidget&)> write;
+  std::function<void(QWidget&, const QVariantMap&)> read;
+};
+
+template <class W>
+Widget Of() {
+  return {&W::staticMetaObject, [] { return std::make_unique<W>(); },
+          [](const QWidget& w) { return static_cast<const W&>(w).writeProperties(); },
+          [](QWidget& w, const QVariantMap& bag) { static_cast<W&>(w).readProperties(bag); }};
+}
+
+// Every published widget, by its published name.
+const std::map<QString, Widget>& Widgets() {
+  static const std::map<QString, Widget> widgets{{"ColorBox", Of<LumoColorCombo::ColorBox>()},
+                                                 {"ColorHexagon", Of<LumoColorCombo::ColorHexagon>()}};
+  return widgets;
+}
+
+// A value of the property's type that differs from `current`.
+QVariant Other(const QMetaProperty& property, const QVariant& current) {
+  if (property.isEnumType()) {
+    const QMetaEnum e = property.enumerator();
+    for (int i = 0; i < e.keyCount(); ++i) {
+      const int value = e.value(i);  // the enumerations are 32-bit
+      if (value != current.toInt()) return QVariant(property.metaType(), &value);
+    }
+  }
+  switch (property.metaType().id()) {
+    case QMetaType::Bool: return !current.toBool();
+    case QMetaType::QString: return current.toString() + "x";
+    case QMetaType::Int: return current.toInt() == 0x123456 ? 0x654321 : 0x123456;
+    default: return {};
+  }
+}
+
+}  // namespace
+
+class PublishedInterfaceTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void widgetPublishesItsMembersAndEventsInOrder_data() {
+    QTest::addColumn<QString>("name");
+    for (const auto& [name, widget] : Widgets()) QTest::newRow(qPrintable(name)) << name;
+  }
+
+  void widgetPublishesItsMembersAndEventsInOrder() {
+    QFETCH(QString, name);
+    const auto& published = lumo::TypeLibrary::Control(name.toStdString());
+    const QMetaObject& meta = *Widgets().at(name).meta;
+    QStringList properties, methods, events, metaProperties, metaMethods, metaSignals;
+    for (const auto& member : published.Members) {
+      (member.Access == lumo::MemberAccess::Method ? methods : properties) << QString::fromStdString(member.Name);
+    }
+    for (const auto& event : published.Events) {
+      QStringList arguments;
+      for (const auto& argument : event.Arguments) {
+        arguments << QString::fromStdString(argument.Name) + (argument.ByRef ? "&" : "");
+      }
+      events << QString::fromStdString(event.Name) + "(" + arguments.join(',') + ")";
+    }
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) metaProperties << meta.property(i).name();
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+      const QMetaMethod method = meta.method(i);
+      QStringList arguments;
+      for (int a = 0; a < method.parameterCount(); ++a) {
+        // A by-reference argument is a non-const reference, so a direct slot can change it.
+        const bool byRef = method.parameterTypeName(a).endsWith('&');
+        arguments << QString::fromLatin1(method.parameterNames().at(a)) + (byRef ? "&" : "");
+      }
+      if (method.methodType() == QMetaMethod::Signal) metaSignals << method.name() + "(" + arguments.join(',') + ")";
+      if (method.methodType() == QMetaMethod::Method) metaMethods << method.name();
+    }
+    // The container's change notice may follow the published events.
+    if (!metaSignals.isEmpty() && metaSignals.last() == "propertyChanged(name)") metaSignals.removeLast();
+    QCOMPARE(metaProperties, properties);
+    QCOMPARE(metaSignals, events);
+    QCOMPARE(metaMethods, methods);
+  }
+
+  void eachPropertyReachesItsMemberAndSurvivesTheFormFile_data() { widgetPublishesItsMembersAndEventsInOrder_data(); }
+
+  void eachPropertyReachesItsMemberAndSurvivesTheFormFile() {
+    QFETCH(QString, name);
+    const Widget& widget = Widgets().at(name);
+    const std::unique_ptr<QWidget> fresh = widget.make();
+    QVERIFY(widget.write(*fresh).isEmpty());  // values equal to their default are left out
+    const std::unique_ptr<QWidget> source = widget.make();
+    const QMetaObject& meta = *widget.meta;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+      const QMetaProperty property = meta.property(i);
+      if (!property.isWritable()) continue;
+      const QVariant value = Other(property, property.read(source.get()));
+      QVERIFY2(value.isValid(), property.name());
+      QVERIFY(property.write(source.get(), value));
+      QVERIFY2(property.read(source.get()) == value, property.name());
+    }
+    const std::unique_ptr<QWidget> copy = widget.make();
+    widget.read(*copy, widget.write(*source));
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+      const QMetaProperty property = meta.property(i);
+      if (property.isWritable()) QVERIFY2(property.read(copy.get()) == property.read(source.get()), property.name());
+    }
+    QCOMPARE(copy->size(), source->size());
+  }
+
+  void enumerationsCarryThePublishedNamesAndValues() {
+    const QMetaObject& meta = LumoColorCombo::staticMetaObject;
+    QStringList published, found;
+    for (const auto& e : lumo::TypeLibrary::Enums()) {
+      for (const auto& c : e.Constants) published << QString("%1.%2=%3").arg(e.Name.c_str(), c.Name.c_str()).arg(c.Value);
+    }
+    for (int i = meta.enumeratorOffset(); i < meta.enumeratorCount(); ++i) {
+      const QMetaEnum e = meta.enumerator(i);
+      for (int k = 0; k < e.keyCount(); ++k) found << QString("%1.%2=%3").arg(e.name(), e.key(k)).arg(e.value(k));
+    }
+    QCOMPARE(found, published);
+  }
+};
+
+QTEST_MAIN(PublishedInterfaceTest)
+#include "published_interface_test.moc"
