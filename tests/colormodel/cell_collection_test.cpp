@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <string>
 #include <vector>
 
 #include "colormodel/CColorboxCol.h"
@@ -15,90 +16,52 @@ class CellCollection : public ::testing::Test {
   TestHost host;
   CColorboxCol cells{host.Errors()};
 
-  std::vector<OLE_COLOR> Colors() const {
-    std::vector<OLE_COLOR> colors;
-    for (const auto& cell : cells) colors.push_back(cell->Color());
-    return colors;
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& cell : cells) names.push_back(cell->Name());
+    return names;
   }
   std::string LastMessage() const {
     return host.Messages.Shown.empty() ? std::string() : host.Messages.Shown.back().Prompt;
   }
 };
 
-TEST_F(CellCollection, AddKeepsOrderSetsFieldsAndNewIndex) {
-  const CellPtr first = cells.Add("Black", 0, 1, 2);
-  cells.Add("", 0xFF, 3, 4, true);
-  cells.Add("White", 0xFFFFFF, 0, 0);
-  EXPECT_EQ(cells.Count(), 3);
+TEST_F(CellCollection, AddRemoveAndClearKeepOrderIndicesAndParents) {
+  const CellPtr a = cells.Add("a", 0, 1, 2);
+  const CellPtr b = cells.Add("b", 0xFF, 3, 4, true);
+  const CellPtr c = cells.Add("c", 0xFF, 0, 0);
   EXPECT_EQ(cells.NewIndex(), 3);
-  EXPECT_EQ(Colors(), (std::vector<OLE_COLOR>{0, 0xFF, 0xFFFFFF}));
-  EXPECT_EQ(first->Name(), "Black");
-  EXPECT_EQ(first->X(), 1);
-  EXPECT_EQ(first->Y(), 2);
-  EXPECT_FALSE(first->IsLarge());
-  EXPECT_TRUE(cells.Item(2)->IsLarge());
-  EXPECT_EQ(first->Parent(), &cells);
-  EXPECT_EQ(cells.Item(1), first);
-}
-
-TEST_F(CellCollection, RemoveShiftsLaterCellsClearsParentAndNewIndex) {
-  cells.Add("a", 1, 0, 0);
-  const CellPtr second = cells.Add("b", 2, 0, 0);
-  const CellPtr third = cells.Add("c", 3, 0, 0);
+  EXPECT_EQ((std::vector<std::int32_t>{a->X(), a->Y(), b->X(), b->Y()}), (std::vector<std::int32_t>{1, 2, 3, 4}));
+  EXPECT_TRUE(b->IsLarge() && !a->IsLarge());
+  EXPECT_EQ(cells.Item(1), a);
+  EXPECT_EQ(c->Index(), 3);  // by identity: b has the same colour
   cells.Remove(2);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"a", "c"}));
   EXPECT_EQ(cells.NewIndex(), 0);
-  EXPECT_EQ(Colors(), (std::vector<OLE_COLOR>{1, 3}));
-  EXPECT_EQ(second->Parent(), nullptr);
-  EXPECT_EQ(third->Index(), 2);
-  EXPECT_TRUE(host.Messages.Shown.empty());
-}
-
-TEST_F(CellCollection, IndexIsByIdentityNotByEqualColour) {
-  cells.Add("x", 0xFF6666, 0, 0);
-  const CellPtr twin = cells.Add("y", 0xFF6666, 0, 0);
-  EXPECT_EQ(twin->Index(), 2);
-}
-
-TEST_F(CellCollection, IndexOfARemovedCellReportsAndAnswersZero) {
-  const CellPtr cell = cells.Add("a", 1, 0, 0);
-  cells.Remove(1);
-  EXPECT_EQ(cell->Index(), 0);
-  EXPECT_EQ(LastMessage(), "Error Number: 91\r\nModule: CColorboxEl\r\nProcedure: Index\r\n\r\nObject not set\r\n");
-}
-
-TEST_F(CellCollection, ItemOutOfRangeReportsNineAndAnswersNoCell) {
-  cells.Add("a", 1, 0, 0);
-  for (std::int32_t bad : {0, 2, -1}) {
-    host.Messages.Shown.clear();
-    EXPECT_EQ(cells.Item(bad), nullptr) << bad;
-    EXPECT_EQ(LastMessage(), "Error Number: 9\r\nModule: CColorboxCol\r\nProcedure: Item\r\n\r\nIndex out of range\r\n")
-        << bad;
-  }
-}
-
-TEST_F(CellCollection, RemoveOfAnInvalidPositionLeavesTheListUnchanged) {
-  cells.Add("a", 1, 0, 0);
-  cells.Remove(5);
-  EXPECT_EQ(cells.Count(), 1);
-  EXPECT_EQ(cells.NewIndex(), 1);
-  EXPECT_FALSE(host.Messages.Shown.empty());
-}
-
-TEST_F(CellCollection, ClearEmptiesAndDetachesEveryCell) {
-  const CellPtr a = cells.Add("a", 1, 0, 0);
-  const CellPtr b = cells.Add("b", 2, 0, 0);
+  EXPECT_EQ(b->Parent(), nullptr);
+  EXPECT_EQ(c->Index(), 2);
+  EXPECT_EQ(a->Parent(), &cells);
+  cells.Clear();
   cells.Clear();
   EXPECT_EQ(cells.Count(), 0);
-  EXPECT_EQ(a->Parent(), nullptr);
-  EXPECT_EQ(b->Parent(), nullptr);
-  EXPECT_EQ(cells.NewIndex(), 0);
+  EXPECT_TRUE(a->Parent() == nullptr && c->Parent() == nullptr);
+  EXPECT_TRUE(host.Messages.Shown.empty());
 }
 
-TEST_F(CellCollection, ClearOfAnEmptyListLeavesNewIndexAlone) {
-  CColorboxCol empty(host.Errors());
-  empty.Clear();
-  EXPECT_EQ(empty.NewIndex(), 0);
-  EXPECT_TRUE(host.Messages.Shown.empty());
+TEST_F(CellCollection, BadPositionsAndRemovedCellsAreReportedNotThrown) {
+  const CellPtr kept = cells.Add("a", 1, 0, 0);
+  for (std::int32_t bad : {0, 2, -1}) {
+    EXPECT_EQ(cells.Item(bad), nullptr) << bad;
+    EXPECT_EQ(LastMessage(), "Error Number: 9\r\nModule: CColorboxCol\r\nProcedure: Item\r\n\r\nIndex out of range\r\n");
+  }
+  host.Messages.Shown.clear();
+  cells.Remove(5);  // reported by Item
+  EXPECT_EQ(cells.Count(), 1);
+  EXPECT_EQ(cells.NewIndex(), 1);
+  EXPECT_EQ(host.Messages.Shown.size(), 1u);
+  cells.Remove(1);
+  EXPECT_EQ(kept->Index(), 0);
+  EXPECT_EQ(LastMessage(), "Error Number: 91\r\nModule: CColorboxEl\r\nProcedure: Index\r\n\r\nObject not set\r\n");
 }
 
 TEST_F(CellCollection, CellsOutliveTheirListWithoutAParent) {
@@ -110,29 +73,28 @@ TEST_F(CellCollection, CellsOutliveTheirListWithoutAParent) {
   EXPECT_EQ(kept->Parent(), nullptr);
 }
 
-TEST_F(CellCollection, FindClosestUsesThePackedDifference) {
-  cells.Add("Black", 0x000000, 0, 0);
-  cells.Add("Red", 0x0000FF, 0, 0);
-  // Blue 1 is 65536 from black but only 65281 from red.
-  EXPECT_EQ(cells.FindClosest(0x010000)->Name(), "Red");
-}
+struct ClosestCase {
+  std::vector<OLE_COLOR> colors;
+  OLE_COLOR target;
+  std::int32_t found;  // 1-based; 0 when nothing is found
+};
 
-TEST_F(CellCollection, FindClosestPrefersTheEarliestOfEqualDistances) {
-  cells.Add("low", 10, 0, 0);
-  cells.Add("high", 30, 0, 0);
-  cells.Add("exact-later", 20, 0, 0);
-  EXPECT_EQ(cells.FindClosest(20)->Name(), "exact-later");
-  EXPECT_EQ(cells.FindClosest(25)->Name(), "high");
-  EXPECT_EQ(cells.FindClosest(15)->Name(), "low");  // 5 from both low and exact-later
-}
+class FindClosest : public CellCollection, public ::testing::WithParamInterface<ClosestCase> {};
 
-TEST_F(CellCollection, FindClosestAnswersNothingWhenEmptyOrTooFar) {
-  EXPECT_EQ(cells.FindClosest(0), nullptr);
-  cells.Add("far", 1 << 30, 0, 0);
-  EXPECT_EQ(cells.FindClosest(0), nullptr);  // exactly 2^30 away: not strictly less
-  EXPECT_NE(cells.FindClosest(1), nullptr);
+// By the difference of the packed numbers (not of the components), strictly less than
+// 2^30, so the earliest of equal distances wins.
+TEST_P(FindClosest, ComparesPackedNumbersAndTheEarliestOfEqualsWins) {
+  for (const OLE_COLOR color : GetParam().colors) cells.Add("", color, 0, 0);
+  const CellPtr cell = cells.FindClosest(GetParam().target);
+  EXPECT_EQ(cell ? cell->Index() : 0, GetParam().found);
   EXPECT_TRUE(host.Messages.Shown.empty());
 }
+
+INSTANTIATE_TEST_SUITE_P(Targets, FindClosest,
+                         ::testing::Values(ClosestCase{{0, 0xFF}, 0x010000, 2}, ClosestCase{{10, 30, 20}, 20, 3},
+                                           ClosestCase{{10, 30, 20}, 25, 2}, ClosestCase{{10, 30, 20}, 15, 1},
+                                           ClosestCase{{}, 0, 0}, ClosestCase{{1 << 30}, 0, 0},
+                                           ClosestCase{{1 << 30}, 1, 1}));
 
 TEST_F(CellCollection, FindClosestReportsOverflowForSystemColours) {
   cells.Add("White", 0xFFFFFF, 0, 0);
@@ -140,24 +102,16 @@ TEST_F(CellCollection, FindClosestReportsOverflowForSystemColours) {
   EXPECT_EQ(LastMessage(), "Error Number: 6\r\nModule: CColorboxCol\r\nProcedure: FindClosest\r\n\r\nOverflow\r\n");
 }
 
-TEST_F(CellCollection, GetObjectUsesInclusiveBoundsAndTheFirstHitWins) {
+TEST_F(CellCollection, HitTestUsesInclusiveBoundsTheFirstHitWinsAndUndrawnCellsSitAtTheOrigin) {
   const CellPtr left = cells.Add("left", 1, 0, 0);
   const CellPtr right = cells.Add("right", 2, 0, 0);
+  const CellPtr undrawn = cells.Add("undrawn", 3, 5, 5);
   left->SetBounds(10, 10, 22, 22);
   right->SetBounds(22, 10, 34, 22);
-  EXPECT_EQ(cells.GetObject(10, 10), left);
-  EXPECT_EQ(cells.GetObject(22, 22), left);  // shared edge: the earlier cell
-  EXPECT_EQ(cells.GetObject(23, 15), right);
-  EXPECT_EQ(cells.GetObject(34, 22), right);
-  EXPECT_EQ(cells.GetObject(35, 22), nullptr);
-  EXPECT_EQ(cells.GetObject(9, 15), nullptr);
-  EXPECT_EQ(cells.GetObject(15, 23), nullptr);
-}
-
-TEST_F(CellCollection, UndrawnCellsMatchOnlyTheOrigin) {
-  const CellPtr undrawn = cells.Add("u", 1, 5, 5);
-  EXPECT_EQ(cells.GetObject(0, 0), undrawn);
-  EXPECT_EQ(cells.GetObject(1, 0), nullptr);
+  const std::vector<std::pair<Point, CellPtr>> hits{
+      {{10, 10}, left}, {{22, 22}, left}, {{23, 15}, right}, {{34, 22}, right}, {{35, 22}, nullptr},
+      {{9, 15}, nullptr}, {{15, 23}, nullptr}, {{0, 0}, undrawn}, {{1, 0}, nullptr}};
+  for (const auto& [p, cell] : hits) EXPECT_EQ(cells.GetObject(p.X, p.Y), cell) << p.X << "," << p.Y;
 }
 
 TEST_F(CellCollection, SearchByExactColourFindsTheFirst) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -12,24 +14,19 @@ namespace {
 
 using testing::TestHost;
 
-TEST(ErrorMessage, FiveLinesWithCrLfAndTheDescriptionLast) {
-  EXPECT_EQ(CommonGlobals::ErrorMessage(6, "Overflow", "CColorboxCol", "FindClosest"),
-            "Error Number: 6\r\nModule: CColorboxCol\r\nProcedure: FindClosest\r\n\r\nOverflow\r\n");
+TEST(ErrorMessage, FiveCrLfLinesOrTheCustomTextThenTheDescription) {
+  const std::pair<std::string, std::string> cases[] = {
+      {CommonGlobals::ErrorMessage(6, "Overflow", "CColorboxCol", "FindClosest"),
+       "Error Number: 6\r\nModule: CColorboxCol\r\nProcedure: FindClosest\r\n\r\nOverflow\r\n"},
+      {CommonGlobals::ErrorMessage(-2147221504, "x", "m", "p"),
+       "Error Number: -2147221504\r\nModule: m\r\nProcedure: p\r\n\r\nx\r\n"},
+      {CommonGlobals::ErrorMessage(5, "d", "m", "p", Variant("Could not draw")), "Could not draw\r\nd\r\n"},
+      {CommonGlobals::ErrorMessage(5, "d", "m", "p", Variant(std::int32_t{42})), "42\r\nd\r\n"},
+      {CommonGlobals::ErrorMessage(5, "d", "m", "p", Variant(true)), "True\r\nd\r\n"}};
+  for (const auto& [message, expected] : cases) EXPECT_EQ(message, expected);
 }
 
-TEST(ErrorMessage, NegativeNumbersKeepTheirSign) {
-  EXPECT_EQ(CommonGlobals::ErrorMessage(-2147221504, "x", "m", "p"),
-            "Error Number: -2147221504\r\nModule: m\r\nProcedure: p\r\n\r\nx\r\n");
-}
-
-TEST(ErrorMessage, CustomTextReplacesTheHeaderLines) {
-  EXPECT_EQ(CommonGlobals::ErrorMessage(5, "Invalid argument", "m", "p", Variant("Could not draw")),
-            "Could not draw\r\nInvalid argument\r\n");
-  EXPECT_EQ(CommonGlobals::ErrorMessage(5, "d", "m", "p", Variant(std::int32_t{42})), "42\r\nd\r\n");
-  EXPECT_EQ(CommonGlobals::ErrorMessage(5, "d", "m", "p", Variant(true)), "True\r\nd\r\n");
-}
-
-TEST(ReportError, ShowsAnExclamationBoxTitledError) {
+TEST(ReportError, ShowsAnExclamationBoxTitledErrorAndNeverFails) {
   TestHost host;
   host.Errors().ReportError(9, "Index out of range", "ColorBox", "Refresh");
   ASSERT_EQ(host.Messages.Shown.size(), 1u);
@@ -37,62 +34,48 @@ TEST(ReportError, ShowsAnExclamationBoxTitledError) {
   EXPECT_EQ(host.Messages.Shown[0].Style, 48);
   EXPECT_EQ(host.Messages.Shown[0].Prompt,
             "Error Number: 9\r\nModule: ColorBox\r\nProcedure: Refresh\r\n\r\nIndex out of range\r\n");
-}
-
-TEST(ReportError, NeverFailsEvenWhenTheMessageBoxThrows) {
-  TestHost host;
   host.Messages.WhileShown = [] { throw std::runtime_error("display gone"); };
   EXPECT_NO_THROW(host.Errors().ReportError(5, "d", "m", "p"));
-  EXPECT_EQ(host.Messages.Shown.size(), 1u);
+  EXPECT_EQ(host.Messages.Shown.size(), 2u);
 }
 
 struct TrapCase {
   const char* name;
   std::function<void()> body;
-  std::int32_t number;
+  std::optional<std::int32_t> number;  // empty: the body succeeds and nothing is shown
 };
 
 class Trap : public ::testing::TestWithParam<TrapCase> {};
 
-TEST_P(Trap, ReportsWhatTheBodyRaisesAndReturnsNormally) {
+TEST_P(Trap, ReportsWhatTheBodyRaisesKeepsEarlierResultsAndReturnsNormally) {
   TestHost host;
-  bool returned = false;
-  host.Errors().Trap("Module1", "Proc1", GetParam().body);
-  returned = true;
-  EXPECT_TRUE(returned);
+  int result = 0;
+  host.Errors().Trap("Module1", "Proc1", [&] {
+    result = 7;
+    GetParam().body();
+  });
+  EXPECT_EQ(result, 7);
+  if (!GetParam().number) {
+    EXPECT_TRUE(host.Messages.Shown.empty());
+    return;
+  }
   ASSERT_EQ(host.Messages.Shown.size(), 1u);
-  EXPECT_EQ(host.Messages.Shown[0].Prompt.rfind("Error Number: " + std::to_string(GetParam().number) +
-                                                    "\r\nModule: Module1\r\nProcedure: Proc1\r\n",
-                                                0),
+  EXPECT_EQ(host.Messages.Shown[0].Prompt.rfind(
+                "Error Number: " + std::to_string(*GetParam().number) + "\r\nModule: Module1\r\nProcedure: Proc1\r\n", 0),
             0u)
       << host.Messages.Shown[0].Prompt;
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, Trap,
-    ::testing::Values(TrapCase{"RuntimeError", [] { throw RuntimeError(err::Overflow); }, 6},
+    ::testing::Values(TrapCase{"Success", [] {}, std::nullopt},
+                      TrapCase{"RuntimeError", [] { throw RuntimeError(err::Overflow); }, 6},
                       TrapCase{"OutOfRange", [] { throw std::out_of_range("x"); }, 9},
                       TrapCase{"BadAlloc", [] { throw std::bad_alloc(); }, 7},
                       TrapCase{"InvalidArgument", [] { throw std::invalid_argument("x"); }, 5},
                       TrapCase{"OtherException", [] { throw std::runtime_error("x"); }, 51},
                       TrapCase{"NotAnException", [] { throw 42; }, 51}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST(Trap, KeepsResultsAssignedBeforeTheError) {
-  TestHost host;
-  int result = 0;
-  host.Errors().Trap("m", "p", [&] {
-    result = 7;
-    throw RuntimeError(err::InvalidArgument);
-  });
-  EXPECT_EQ(result, 7);
-}
-
-TEST(Trap, SilentWhenTheBodySucceeds) {
-  TestHost host;
-  host.Errors().Trap("m", "p", [] {});
-  EXPECT_TRUE(host.Messages.Shown.empty());
-}
 
 TEST(TrapAndNotify, NotifiesWithTheLabelOnBothPaths) {
   TestHost host;
@@ -102,10 +85,6 @@ TEST(TrapAndNotify, NotifiesWithTheLabelOnBothPaths) {
   EXPECT_EQ(site.Changed, (std::vector<std::string>{"PickStyle [Let]", "Color [Let]"}));
   ASSERT_EQ(host.Messages.Shown.size(), 1u);
   EXPECT_NE(host.Messages.Shown[0].Prompt.find("Procedure: Color [Let]"), std::string::npos);
-}
-
-TEST(IgnoreErrors, SwallowsEverything) {
-  EXPECT_NO_THROW(CommonGlobals::IgnoreErrors([] { throw RuntimeError(err::Overflow); }));
   EXPECT_NO_THROW(CommonGlobals::IgnoreErrors([] { throw 1; }));
 }
 

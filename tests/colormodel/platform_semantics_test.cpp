@@ -46,7 +46,6 @@ TEST_P(CheckedArithmetic, GivesResultOrRaisesInsteadOfWrapping) {
 INSTANTIATE_TEST_SUITE_P(
     Boundaries, CheckedArithmetic,
     ::testing::Values(
-        ArithmeticCase{"AddAtMax", [] { return checked::Add(kMax - 1, 1); }, kMax, 0},
         ArithmeticCase{"AddPastMax", [] { return checked::Add(kMax, 1); }, std::nullopt, err::Overflow},
         ArithmeticCase{"SubPastMin", [] { return checked::Sub(kMin, 1); }, std::nullopt, err::Overflow},
         ArithmeticCase{"SubSystemColourFromColour",
@@ -55,7 +54,6 @@ INSTANTIATE_TEST_SUITE_P(
         ArithmeticCase{"MulPastMax", [] { return checked::Mul(65536, 32768); }, std::nullopt, err::Overflow},
         ArithmeticCase{"MulNegative", [] { return checked::Mul(-65536, 32768); }, kMin, 0},
         ArithmeticCase{"AbsOfMin", [] { return checked::Abs(kMin); }, std::nullopt, err::Overflow},
-        ArithmeticCase{"AbsNegative", [] { return checked::Abs(-5); }, 5, 0},
         ArithmeticCase{"DivTruncatesNegative", [] { return checked::Div(-7, 2); }, -3, 0},
         ArithmeticCase{"DivTruncatesSmallNegative", [] { return checked::Div(-1, 8); }, 0, 0},
         ArithmeticCase{"DivByZero", [] { return checked::Div(1, 0); }, std::nullopt, err::DivisionByZero},
@@ -64,27 +62,20 @@ INSTANTIATE_TEST_SUITE_P(
         ArithmeticCase{"ModByZero", [] { return checked::Mod(3, 0); }, std::nullopt, err::DivisionByZero}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST(RoundHalfToEven, TiesGoToTheEvenNeighbour) {
-  const std::pair<double, std::int32_t> cases[] = {
-      {0.5, 0}, {1.5, 2}, {2.5, 2}, {3.5, 4}, {-0.5, 0}, {-1.5, -2}, {-2.5, -2},
-      {2.4999, 2}, {2.5001, 3}, {-2.5001, -3}, {16.5, 16}, {17.0, 17}};
+TEST(RoundHalfToEven, TiesGoToTheEvenNeighbourAndOutOfRangeOverflows) {
+  const std::pair<double, std::int32_t> cases[] = {{0.5, 0},     {1.5, 2},     {2.5, 2},       {-0.5, 0},
+                                                   {-1.5, -2},   {2.4999, 2},  {2.5001, 3},    {-2.5001, -3},
+                                                   {16.5, 16},   {17.0, 17},   {2147483647.4, kMax}};
   for (const auto& [value, expected] : cases) EXPECT_EQ(checked::Round(value), expected) << value;
-}
-
-TEST(RoundHalfToEven, OutOfRangeAndNonFiniteOverflow) {
-  EXPECT_EQ(ErrorOf([] { checked::Round(2147483647.5); }), err::Overflow);
-  EXPECT_EQ(checked::Round(2147483647.4), kMax);
-  EXPECT_EQ(ErrorOf([] { checked::Round(std::numeric_limits<double>::infinity()); }), err::Overflow);
-  EXPECT_EQ(ErrorOf([] { checked::Round(std::numeric_limits<double>::quiet_NaN()); }), err::Overflow);
+  for (const double bad : {2147483647.5, std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+    EXPECT_EQ(ErrorOf([=] { checked::Round(bad); }), err::Overflow) << bad;
+  }
 }
 
 TEST(HexText, UpperCaseWithoutLeadingZerosAndTwosComplementForNegatives) {
   EXPECT_EQ(text::Hex(0), "0");
-  EXPECT_EQ(text::Hex(10), "A");
-  EXPECT_EQ(text::Hex(0x663300), "663300");
   EXPECT_EQ(text::Hex(0x00ABCDEF), "ABCDEF");
   EXPECT_EQ(text::Hex(-1), "FFFFFFFF");
-  EXPECT_EQ(text::Hex(kMin), "80000000");
   EXPECT_EQ(text::Hex(static_cast<std::int32_t>(0x8000000F)), "8000000F");
 }
 
@@ -126,7 +117,6 @@ INSTANTIATE_TEST_SUITE_P(
                       ConversionCase{"-", std::nullopt, err::TypeMismatch}));
 
 TEST(Padding, NegativeCountIsAnInvalidArgument) {
-  EXPECT_EQ(text::Repeat(0, '0'), "");
   EXPECT_EQ(text::Repeat(3, '0'), "000");
   EXPECT_EQ(ErrorOf([] { text::Repeat(-1, '0'); }), err::InvalidArgument);
 }
