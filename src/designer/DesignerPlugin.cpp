@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "qt/ColorBox.h"
+#include "qt/ColorCombo.h"
 #include "qt/ColorHexagon.h"
 #include "qt/ColorSample.h"
 
@@ -22,6 +23,10 @@ QWidget* create(QWidget* parent, bool designing) {
 
 // The widgets of the library, in the order of Designer's widget box.
 const WidgetEntry kWidgets[] = {
+    {"LumoColorCombo::ColorCombo", "qt/ColorCombo.h", "Colour combo",
+     "A field showing the current colour that drops a palette grid under itself; previews the colour under "
+     "the pointer and raises Before/After events for each pick.",
+     "LumoColorCombo", &create<ColorCombo>},
     {"LumoColorCombo::ColorBox", "qt/ColorBox.h", "Palette colour grid",
      "A grid of one of fifteen palettes, with optional \"Automatic\" and \"More Colors...\" buttons.",
      "LumoColorCombo", &create<ColorBox>},

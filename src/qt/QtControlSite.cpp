@@ -56,7 +56,12 @@ std::int32_t QtControlSite::Height() const { return widget_ ? Twips::fromPixels(
 
 void QtControlSite::Size(std::int32_t width, std::int32_t height) {
   if (!widget_) return;
-  widget_->setFixedSize(Twips::toPixels(width), Twips::toPixels(height));
+  if (widthFromContainer_) {
+    widget_->setFixedHeight(Twips::toPixels(height));
+    widget_->resize(Twips::toPixels(width), widget_->height());
+  } else {
+    widget_->setFixedSize(Twips::toPixels(width), Twips::toPixels(height));
+  }
   widget_->updateGeometry();
 }
 

@@ -44,7 +44,9 @@ class QtControlSite : public QObject, public lumo::ControlSite {
 
   std::int32_t Width() const override;
   std::int32_t Height() const override;
-  // The controls size themselves to their content: the widget gets exactly this size.
+  // The controls size themselves to their content: the widget gets exactly this size,
+  // or, for a control whose width is its container's, this height and this width as a
+  // start that layouts may change.
   void Size(std::int32_t width, std::int32_t height) override;
 
   void SetEnabled(bool enabled) override;
@@ -55,6 +57,9 @@ class QtControlSite : public QObject, public lumo::ControlSite {
   QWidget* widget() const { return widget_; }
   // False while a form designer shows the control.
   void setUserMode(bool userMode) { userMode_ = userMode; }
+  // The combo: the container (a layout, an item view) gives the width, the control only
+  // fixes its height.
+  void setWidthFromContainer(bool fromContainer) { widthFromContainer_ = fromContainer; }
   const QString& accessKeys() const { return accessKeys_; }
 
   static lumo::StdFont toStdFont(const QFont& font);
@@ -73,6 +78,7 @@ class QtControlSite : public QObject, public lumo::ControlSite {
 
   QPointer<QWidget> widget_;
   bool userMode_ = true;
+  bool widthFromContainer_ = false;
   QString accessKeys_;
   std::vector<QPointer<QShortcut>> shortcuts_;
 };

@@ -1,0 +1,364 @@
+// End to end: a real ColorCombo and its real drop-down, driven with QTest while the
+// drop-down's (and the More Colors dialog's) modal loop runs.
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QStandardItemModel>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QtTest>
+
+#include <functional>
+
+#include "colorbox/ColorBox.h"
+#include "colorcombo/frmDropdown.h"
+#include "colorhexagon/ColorHexagon.h"
+#include "morecolors/frmPopup.h"
+#include "qt/ColorCombo.h"
+#include "qt/QtFormWindow.h"
+#include "qt/QtHost.h"
+#include "qt/SurfaceWidget.h"
+
+using namespace LumoColorCombo;
+using host::QtFormWindow;
+
+namespace {
+
+constexpr OLE_COLOR kStartColor = 0x336699;
+
+QtFormWindow* OpenForm(const QString& name) {
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    auto* form = qobject_cast<QtFormWindow*>(top);
+    if (form != nullptr && form->isVisible() && form->formName() == name) return form;
+  }
+  return nullptr;
+}
+
+// Acts on the library form `name` once it is exposed, from inside its modal loop. Should
+// the action leave it open, the form is unloaded a while later so a failing test ends.
+class WhenShown {
+ public:
+  WhenShown(QString name, std::function<void(QtFormWindow&)> act) : name_(std::move(name)), act_(std::move(act)) {
+    QObject::connect(&timer_, &QTimer::timeout, [this] { Poll(); });
+    timer_.start(0);
+  }
+  bool acted() const { return acted_; }
+
+ private:
+  void Poll() {
+    QtFormWindow* form = OpenForm(name_);
+    if (form == nullptr || !form->windowHandle() || !form->windowHandle()->isExposed()) return;
+    timer_.stop();
+    acted_ = true;
+    const QPointer<QtFormWindow> shown(form);
+    act_(*form);
+    QTimer::singleShot(3000, [shown] {
+      if (shown && shown->IsLoaded()) shown->Unload();
+    });
+  }
+
+  QString name_;
+  std::function<void(QtFormWindow&)> act_;
+  QTimer timer_;
+  bool acted_ = false;
+};
+
+lumo::Runtime& Runtime() { return host::QtHost::instance().runtime(); }
+QWidget& Grid(QtFormWindow& form) { return *form.children().findSurface(QStringLiteral("ColorBox1")); }
+QPoint Centre(const lumo::Rect& r) { return {(r.Left + r.Right) / 2, (r.Top + r.Bottom) / 2}; }
+
+// The centre of the first cell of another colour than `other`, and its colour.
+std::pair<QPoint, OLE_COLOR> CellOtherThan(const lumo::CColorboxCol& cells, OLE_COLOR other) {
+  for (const lumo::CellPtr& cell : cells) {
+    if (cell->Color() == other || cell->BoundRight() <= cell->BoundLeft()) continue;
+    return {Centre({cell->BoundLeft(), cell->BoundTop(), cell->BoundRight(), cell->BoundBottom()}), cell->Color()};
+  }
+  return {};
+}
+std::pair<QPoint, OLE_COLOR> GridCellOtherThan(OLE_COLOR other) {
+  return CellOtherThan(*lumo::frmDropdown::Instance(Runtime()).ColorBox1()->Cells(), other);
+}
+
+QRgb Rgb(OLE_COLOR color) { return qRgb(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
+QString Hex(OLE_COLOR color) { return QStringLiteral("%1").arg(color, 6, 16, QLatin1Char('0')); }
+// The colour inside the field's swatch.
+QRgb FieldColor(const ColorCombo& combo) { return combo.surface()->image().pixel(12, combo.height() / 2); }
+
+// A window with a combo at its top and a text field below it, and the combo's events.
+struct Form {
+  Form() {
+    window.resize(320, 240);
+    combo->setGeometry(10, 10, 160, combo->height());
+    other->move(10, 180);
+    const auto before = [this](const QString& entry, bool& cancel) {
+      log << entry;
+      cancel = !cancelOn.isEmpty() && entry.startsWith(cancelOn);
+    };
+    QObject::connect(combo, &ColorCombo::BeforeDropDown, [before](bool& cancel) { before("BeforeDropDown", cancel); });
+    QObject::connect(combo, &ColorCombo::BeforeColorChanged,
+                     [before](OLE_COLOR color, bool& cancel) { before("BeforeColorChanged " + Hex(color), cancel); });
+    QObject::connect(combo, &ColorCombo::AfterColorChanged,
+                     [this](OLE_COLOR color) { log << "AfterColorChanged " + Hex(color); });
+    QObject::connect(combo, &ColorCombo::BeforeIsAutomaticChanged, [before](bool value, bool& cancel) {
+      before(QStringLiteral("BeforeIsAutomaticChanged %1").arg(value), cancel);
+    });
+    QObject::connect(combo, &ColorCombo::AfterIsAutomaticChanged,
+                     [this](bool value) { log << QStringLiteral("AfterIsAutomaticChanged %1").arg(value); });
+    QObject::connect(combo, &ColorCombo::AfterDropUp, [this] { log << QStringLiteral("AfterDropUp"); });
+  }
+  void Show(QPoint at = {100, 100}) {
+    window.move(at);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+  }
+  void StartWithColour(OLE_COLOR color) {
+    combo->setIsAutomatic(false);
+    combo->setColor(color);
+  }
+  void Click() { QTest::mouseClick(combo->surface(), Qt::LeftButton, {}, QPoint(20, 5)); }
+
+  QWidget window;
+  ColorCombo* combo = new ColorCombo(&window);
+  QLineEdit* other = new QLineEdit(&window);
+  QStringList log;
+  QString cancelOn;  // the Before event whose Cancel the host sets
+};
+
+// A delegate whose editor is a combo; a pick in it is committed at once.
+class ComboDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override {
+    auto* editor = new ColorCombo(parent);
+    connect(editor, &ColorCombo::currentColorChanged, this,
+            [this, editor] { emit const_cast<ComboDelegate*>(this)->commitData(editor); });
+    return editor;
+  }
+  // Loading the model's colour into the editor is no edit to commit.
+  void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+    const QSignalBlocker quiet(editor);
+    QStyledItemDelegate::setEditorData(editor, index);
+  }
+};
+
+}  // namespace
+
+class ColorComboWidgetTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void cleanup() {
+    if (QtFormWindow* form = OpenForm(QStringLiteral("frmDropdown"))) form->Unload();
+  }
+
+  void opensTheDropdownUnderTheField_data() {
+    QTest::addColumn<int>("key");  // 0: a click
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<bool>("nearScreenBottom");
+    QTest::newRow("click") << 0 << 0 << false;
+    QTest::newRow("click, no room below") << 0 << 0 << true;
+    QTest::newRow("Down") << int(Qt::Key_Down) << 0 << false;
+    QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier) << false;
+    QTest::newRow("Left") << int(Qt::Key_Left) << 0 << false;
+    QTest::newRow("Shift+F4") << int(Qt::Key_F4) << int(Qt::ShiftModifier) << false;
+    QTest::newRow("Alt+access key from elsewhere") << int(Qt::Key_L) << int(Qt::AltModifier) << false;
+  }
+
+  void opensTheDropdownUnderTheField() {
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(bool, nearScreenBottom);
+    Form form;
+    form.combo->setStyle(cscButton);  // the style with an access key, and no drop button to aim at
+    form.combo->setCaption(QStringLiteral("Co&lour"));
+    const QRect screen = form.window.screen()->geometry();
+    form.Show(nearScreenBottom ? QPoint(100, screen.bottom() - 60) : QPoint(100, 100));
+    QWidget* focus = key == Qt::Key_L ? static_cast<QWidget*>(form.other) : form.combo->surface();
+    focus->setFocus();
+    QTRY_VERIFY(focus->hasFocus());
+    QRect field, dropdown;
+    WhenShown user(QStringLiteral("frmDropdown"), [&](QtFormWindow& window) {
+      field = QRect(form.combo->mapToGlobal(QPoint(0, 0)), form.combo->size());
+      dropdown = window.frameGeometry();
+      QTest::keyClick(&Grid(window), Qt::Key_Escape);
+    });
+
+    if (key == 0) {
+      form.Click();
+    } else {
+      QTest::keyClick(focus, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    }
+
+    QVERIFY(user.acted());
+    QCOMPARE(form.log, (QStringList{"BeforeDropDown", "AfterDropUp"}));
+    QCOMPARE(dropdown.left(), field.left());
+    if (nearScreenBottom) {
+      QVERIFY2(dropdown.bottom() <= field.bottom() && dropdown.top() < field.top(), "above the field's bottom");
+    } else {
+      QVERIFY2(qAbs(dropdown.top() - field.bottom()) <= 1, "right under the field");
+    }
+    QVERIFY(screen.contains(dropdown));
+  }
+
+  void hoveringPreviewsAndClosingWithoutAPickRestores_data() {
+    QTest::addColumn<QString>("close");
+    QTest::newRow("Escape") << "Escape";
+    QTest::newRow("F4") << "F4";
+    QTest::newRow("a press outside the grid") << "outside";
+  }
+
+  void hoveringPreviewsAndClosingWithoutAPickRestores() {
+    QFETCH(QString, close);
+    Form form;
+    form.StartWithColour(kStartColor);
+    form.Show();
+    QRgb previewed = 0;
+    OLE_COLOR hovered = 0;
+    QStringList whilePreviewing;
+    WhenShown user(QStringLiteral("frmDropdown"), [&](QtFormWindow& window) {
+      QPoint cell;
+      std::tie(cell, hovered) = GridCellOtherThan(kStartColor);
+      // From next to the cell, so the pointer moves even if it rests there already.
+      QTest::mouseMove(&Grid(window), cell + QPoint(1, 1));
+      QTest::mouseMove(&Grid(window), cell);
+      QTRY_COMPARE(FieldColor(*form.combo), Rgb(hovered));
+      previewed = FieldColor(*form.combo);
+      whilePreviewing = form.log;
+      if (close == "outside") {
+        QTest::mouseClick(&Grid(window), Qt::LeftButton, {}, QPoint(-20, Grid(window).height() + 20));
+      } else {
+        QTest::keyClick(&Grid(window), close == "F4" ? Qt::Key_F4 : Qt::Key_Escape);
+      }
+    });
+
+    form.Click();
+
+    QVERIFY(user.acted());
+    QCOMPARE(previewed, Rgb(hovered));
+    QCOMPARE(whilePreviewing, QStringList{"BeforeDropDown"});
+    QCOMPARE(form.log, (QStringList{"BeforeDropDown", "AfterDropUp"}));
+    QCOMPARE(form.combo->Color(), kStartColor);
+    QCOMPARE(FieldColor(*form.combo), Rgb(kStartColor));
+    QVERIFY(OpenForm(QStringLiteral("frmDropdown")) == nullptr);
+  }
+
+  void aClickOnTheGridPicks_data() {
+    QTest::addColumn<bool>("pickAutomatic");
+    QTest::newRow("a colour while automatic") << false;
+    QTest::newRow("automatic while a colour is in force") << true;
+  }
+
+  void aClickOnTheGridPicks() {
+    QFETCH(bool, pickAutomatic);
+    Form form;
+    if (pickAutomatic) form.StartWithColour(kStartColor);
+    form.Show();
+    QSignalSpy announced(form.combo, &ColorCombo::currentColorChanged);
+    OLE_COLOR picked = 0;
+    WhenShown user(QStringLiteral("frmDropdown"), [&](QtFormWindow& window) {
+      QPoint target = Centre(lumo::frmDropdown::Instance(Runtime()).ColorBox1()->AutoRect());
+      if (!pickAutomatic) std::tie(target, picked) = GridCellOtherThan(form.combo->Color());
+      QTest::mouseClick(&Grid(window), Qt::LeftButton, {}, target);
+    });
+
+    form.Click();
+
+    QVERIFY(user.acted());
+    const QStringList expected =
+        pickAutomatic ? QStringList{"BeforeDropDown", "BeforeIsAutomaticChanged 1", "AfterIsAutomaticChanged 1",
+                                    "AfterDropUp"}
+                      : QStringList{"BeforeDropDown", "BeforeIsAutomaticChanged 0", "AfterIsAutomaticChanged 0",
+                                    "BeforeColorChanged " + Hex(picked), "AfterColorChanged " + Hex(picked),
+                                    "AfterDropUp"};
+    QCOMPARE(form.log, expected);
+    const QRgb shown = pickAutomatic ? form.combo->surface()->resolve(form.combo->AutoColor()).rgb() : Rgb(picked);
+    QCOMPARE(FieldColor(*form.combo), shown);
+    QCOMPARE(announced.count(), 1);
+    QCOMPARE(announced.at(0).at(0).value<QColor>().rgb(), shown);
+  }
+
+  void cancelInBeforeDropDownOpensNothing() {
+    Form form;
+    form.cancelOn = QStringLiteral("BeforeDropDown");
+    form.Show();
+    WhenShown user(QStringLiteral("frmDropdown"), [](QtFormWindow& window) { window.Unload(); });
+
+    form.Click();
+    QCoreApplication::processEvents();
+
+    QVERIFY(!user.acted());
+    QCOMPARE(form.log, QStringList{"BeforeDropDown"});
+  }
+
+  void moreColorsRunsTheDialogFromTheDropdownAndOkCommits() {
+    Form form;
+    form.StartWithColour(kStartColor);
+    form.Show();
+    OLE_COLOR chosen = 0;
+    bool fromTheDropdown = false;
+    WhenShown dialog(QStringLiteral("frmPopup"), [&](QtFormWindow& window) {
+      fromTheDropdown = form.combo->isDroppedDown();
+      QPoint cell;
+      std::tie(cell, chosen) = CellOtherThan(*lumo::frmPopup::Instance(Runtime()).Hexagon()->Cells(), kStartColor);
+      QTest::mouseClick(window.children().findSurface(QStringLiteral("ColorHexagon1")), Qt::LeftButton, {}, cell);
+      QTest::mouseClick(window.children().findButton(QStringLiteral("cmdButton"), 0), Qt::LeftButton);
+    });
+    WhenShown dropdown(QStringLiteral("frmDropdown"), [](QtFormWindow& window) {
+      const QPoint more = Centre(lumo::frmDropdown::Instance(Runtime()).ColorBox1()->MoreRect());
+      QTest::mouseClick(&Grid(window), Qt::LeftButton, {}, more);
+    });
+
+    form.Click();
+
+    QVERIFY(dropdown.acted() && dialog.acted() && fromTheDropdown);
+    QCOMPARE(form.combo->Color(), chosen);
+    QCOMPARE(form.log, (QStringList{"BeforeDropDown", "BeforeColorChanged " + Hex(chosen),
+                                    "AfterColorChanged " + Hex(chosen), "AfterDropUp"}));
+  }
+
+  void widthComesFromTheContainerAndHeightFromTheFont() {
+    Form form;
+    form.Show();
+    const int height = form.combo->height();
+    form.combo->resize(250, 80);
+    QCOMPARE(form.combo->size(), QSize(250, height));
+    QCOMPARE(form.combo->surface()->width(), 250);
+
+    QFont larger = form.combo->Font();
+    larger.setPixelSize(larger.pixelSize() * 2);
+    form.combo->setFont(larger);
+    QVERIFY(form.combo->height() > height);
+    QCOMPARE(form.combo->width(), 250);
+  }
+
+  void editsAColourColumnOfAnItemView() {
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), QColor(Qt::white));
+    QTableView view;
+    ComboDelegate delegate;
+    view.setItemDelegate(&delegate);
+    view.setModel(&model);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    view.edit(model.index(0, 0));
+    auto* editor = view.viewport()->findChild<ColorCombo*>();
+    QVERIFY(editor != nullptr);
+    QTRY_VERIFY(editor->isVisible());
+    QCOMPARE(editor->currentColor(), QColor(Qt::white));
+    OLE_COLOR picked = 0;
+    WhenShown user(QStringLiteral("frmDropdown"), [&](QtFormWindow& window) {
+      QPoint target;
+      std::tie(target, picked) = GridCellOtherThan(0xFFFFFF);
+      QTest::mouseClick(&Grid(window), Qt::LeftButton, {}, target);
+    });
+
+    QTest::mouseClick(editor->surface(), Qt::LeftButton, {}, QPoint(20, 5));
+
+    QVERIFY(user.acted());
+    QCOMPARE(model.data(model.index(0, 0)).value<QColor>().rgb(), Rgb(picked));
+  }
+};
+
+QTEST_MAIN(ColorComboWidgetTest)
+#include "color_combo_widget_test.moc"
