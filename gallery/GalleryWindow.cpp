@@ -14,6 +14,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "ComboPage.h"
 #include "EventLog.h"
 #include "PaletteSettings.h"
 #include "SamplePage.h"
@@ -61,6 +62,7 @@ QPalette DarkPalette() {
 GalleryWindow::GalleryWindow(QWidget* parent)
     : QMainWindow(parent), tabs_(new QTabWidget(this)), log_(new EventLog(this)) {
   setWindowTitle(tr("LumoColorCombo Gallery"));
+  tabs_->addTab(new ComboPage(log_, this), tr("Combo"));
   tabs_->addTab(buildPalettesPage(), tr("Palettes"));
   tabs_->addTab(buildHoneycombPage(), tr("Honeycomb"));
   tabs_->addTab(new SamplePage(log_, this), tr("Sample"));

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "ComboPage.h"
 #include "GalleryWindow.h"
 #include "qt/ColorBox.h"
 #include "qt/ColorHexagon.h"
@@ -21,6 +22,7 @@ int ScreenshotWriter::writeAll() {
   window_.show();
   settle();
   writePages(QString());
+  writeCombos();
   writePalettes();
   writeHoneycomb();
   writeDialog();
@@ -53,15 +55,30 @@ void ScreenshotWriter::writePages(const QString& suffix) {
   tabs->setCurrentIndex(0);
 }
 
-void ScreenshotWriter::writePalettes() {
-  window_.tabs()->setCurrentIndex(0);
+void ScreenshotWriter::showTabOf(const QWidget* widget) {
+  QTabWidget* tabs = window_.tabs();
+  for (int i = 0; i < tabs->count(); ++i) {
+    if (widget != nullptr && tabs->widget(i)->isAncestorOf(widget)) tabs->setCurrentIndex(i);
+  }
   settle();
+}
+
+void ScreenshotWriter::writeCombos() {
+  auto* page = window_.findChild<ComboPage*>();
+  if (page == nullptr) return;
+  window_.tabs()->setCurrentWidget(page);
+  settle();
+  // save() counts what it writes.
+  page->writeScreenshots([this](const QPixmap& picture, const QString& name) { return save(picture, name); });
+}
+
+void ScreenshotWriter::writePalettes() {
+  showTabOf(window_.paletteBoxes().value(0));
   for (LumoColorCombo::ColorBox* box : window_.paletteBoxes()) save(box->grab(), QStringLiteral("palette-") + box->objectName());
 }
 
 void ScreenshotWriter::writeHoneycomb() {
-  window_.tabs()->setCurrentIndex(1);
-  settle();
+  showTabOf(window_.hexagon());
   LumoColorCombo::ColorHexagon* hexagon = window_.hexagon();
   hexagon->setIsAutomatic(false);
   hexagon->setColor(0x3399FF);  // FF9933 red first: a cell of the honeycomb, so it is marked

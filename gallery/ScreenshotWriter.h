@@ -5,8 +5,9 @@
 
 class GalleryWindow;
 
-// Writes PNG screenshots of the gallery: each page, each palette, the honeycomb, the
-// "More Colors" dialog, the sample box, the About box, and the pages again under a dark theme.
+// Writes PNG screenshots of the gallery: each page, the combo's styles, focus and open
+// drop-down, each palette, the honeycomb, the "More Colors" dialog, the sample box, the
+// About box, and the pages again under a dark theme.
 class ScreenshotWriter {
  public:
   ScreenshotWriter(GalleryWindow& window, const QString& folder);
@@ -18,6 +19,8 @@ class ScreenshotWriter {
   bool save(const QPixmap& picture, const QString& name);
   void settle() const;
   void writePages(const QString& suffix);
+  void showTabOf(const QWidget* widget);
+  void writeCombos();
   void writePalettes();
   void writeHoneycomb();
   void writeDialog();
