@@ -63,16 +63,21 @@ INSTANTIATE_TEST_SUITE_P(
                       Move{Std, 3, 0, U, 2, 16}, Move{Big, 2, 272, R, 3, 0}, Move{Big, 2, 257, U, 2, 241},
                       Move{Big, 2, 260, D, 3, 0}, Move{Big, 3, 0, L, 2, 272}));
 
-TEST_F(ColorBoxKeys, EnterChoosesWhatHasTheFocus) {
+TEST_F(ColorBoxKeys, EnterChoosesWhatHasTheFocusAndEscapeMarksThePickNotCommitted) {
   struct Case {
     std::int32_t zone, index;
+    std::int16_t key;
     const char* event;
   };
-  for (const Case c : {Case{1, 0, "Click 663300  auto"}, Case{2, 3, "Click 8200 Green"}, Case{3, 0, "MoreColorClick"}}) {
+  for (const Case c : {Case{1, 0, keycode::Enter, "Click 663300  auto"}, Case{2, 3, keycode::Enter, "Click 8200 Green"},
+                       Case{3, 0, keycode::Enter, "MoreColorClick"}, Case{2, 4, keycode::Escape, "UserCancel"}}) {
     Focus(c.zone, c.index);
-    surface.Key(keycode::Enter);
+    host.Runtime.ReDimPopupResult(4);
+    surface.Key(c.key);
     EXPECT_EQ(Log, (Lines{c.event}));
+    EXPECT_EQ(host.Runtime.PopupResult().size(), c.key == keycode::Escape ? 1u : 4u);
   }
+  EXPECT_EQ(host.Runtime.PopupResult(), (std::vector<Variant>{Variant(false)}));
 }
 
 TEST_F(ColorBoxKeys, MovingOnLeavesOnlyTheNewCellRaised) {
@@ -94,14 +99,6 @@ TEST_F(ColorBoxKeys, MovingOnLeavesOnlyTheNewCellRaised) {
   EXPECT_EQ(lastFrameOf(2), "erased");
   EXPECT_EQ(lastFrameOf(3), "raised");
   EXPECT_EQ(box->HotIndex(), 3);
-}
-
-TEST_F(ColorBoxKeys, EscapeMarksThePickNotCommittedAndCancels) {
-  Focus(focuszone::Grid, 4);
-  host.Runtime.ReDimPopupResult(4);
-  surface.Key(keycode::Escape);
-  EXPECT_EQ(Log, (Lines{"UserCancel"}));
-  EXPECT_EQ(host.Runtime.PopupResult(), (std::vector<Variant>{Variant(false)}));
 }
 
 TEST_F(ColorBoxKeys, KeyboardEntersButtonsTheControlDoesNotOffer) {

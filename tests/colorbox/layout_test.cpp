@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <vector>
 
 #include "ColorBoxHarness.h"
@@ -12,41 +11,6 @@ namespace {
 using testing::ColorBoxHarness;
 using testing::kTextHeight;
 using Args = std::vector<std::int32_t>;
-
-struct SizeCase {
-  std::int32_t style;
-  bool automatic, moreColors;
-  std::int32_t width, height;  // pixels
-};
-void PrintTo(const SizeCase& c, std::ostream* os) { *os << c.style << " " << c.automatic << c.moreColors; }
-
-class ColorBoxSizing : public ColorBoxHarness, public ::testing::WithParamInterface<SizeCase> {};
-
-// Width: 12 per column, 6 per gap, 8 of border. Height: 18 per row + 2, the text
-// height (17) for Automatic, text height + 4 for More Colors, 4 per ";" of the
-// row-gap marker, 8 of border.
-TEST_P(ColorBoxSizing, SurfaceAndControlTakeTheExtentOfTheContent) {
-  const SizeCase& c = GetParam();
-  box->SetAllowAutomatic(c.automatic);
-  box->SetAllowMoreColors(c.moreColors);
-  box->SetPickStyle(c.style);
-  EXPECT_EQ(surface.CallsOf("Move").back().Args, (Args{0, 0, c.width * 15, c.height * 15}));
-  EXPECT_EQ(surface.ScaleWidth(), c.width);
-  EXPECT_EQ(site.WidthTwips, c.width * 15);
-  EXPECT_EQ(site.HeightTwips, c.height * 15);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    StylesAndButtons, ColorBoxSizing,
-    ::testing::Values(SizeCase{cpsStandard, false, false, 146, 46}, SizeCase{cpsStandard, true, false, 146, 63},
-                      SizeCase{cpsStandard, false, true, 146, 67}, SizeCase{cpsStandard, true, true, 146, 84},
-                      SizeCase{cpsStandardWithBW, false, false, 146, 90}, SizeCase{cpsStandardWithBW, true, false, 146, 107},
-                      SizeCase{cpsStandardWithBW, false, true, 146, 111}, SizeCase{cpsStandardWithBW, true, true, 146, 128},
-                      SizeCase{cpsPalette40, false, false, 146, 100}, SizeCase{cpsPalette40, true, true, 146, 138},
-                      SizeCase{cpsGreyScale256, false, false, 290, 298}, SizeCase{cpsGreyScale256, true, false, 290, 315},
-                      SizeCase{cpsGreyScale256, false, true, 290, 319}, SizeCase{cpsGreyScale256, true, true, 290, 336},
-                      SizeCase{cpsPalette256WithBW, false, false, 290, 324},
-                      SizeCase{cpsPalette256WithBW, true, true, 290, 362}));
 
 class ColorBoxDrawing : public ColorBoxHarness {
  protected:

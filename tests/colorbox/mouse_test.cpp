@@ -154,6 +154,10 @@ TEST_P(ColorBoxToolTip, TimerReleasesTheCaptureAndReshowsTheTipAfterHalfASecondO
   Lines expected = assignments;
   if (c.shown) expected.push_back(assignments.back());
   EXPECT_EQ(surface.ToolTipAssignments, expected);
+  if (!c.shown) return;
+  host.Windows.Capture = surface.hWnd();  // off now: nothing ticks until the pointer moves again
+  host.Clock.Advance(1);
+  EXPECT_EQ(host.Timers.FireEnabled(), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(RestCaptureAndPlace, ColorBoxToolTip,
