@@ -1,5 +1,5 @@
-// Pixel tests of the Qt drawing surface: each drawing call against the platform's
-// pixel rules, read back from the backing image, plus the input it forwards.
+// Pixel tests of the Qt drawing surface: each drawing call against its pixel rules,
+// read back from the backing image, plus the input it forwards.
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -43,30 +43,22 @@ class Recorder : public lumo::SurfaceEvents {
 };
 
 QColor Color(lumo::OLE_COLOR value) { return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF); }
-
-bool FilledWith(const SurfaceWidget& surface, const QColor& color) {
-  QImage filled(surface.image().size(), QImage::Format_RGB32);
-  filled.fill(color);
-  return surface.image() == filled;
-}
-
 QColor At(const SurfaceWidget& surface, int x, int y) { return surface.image().pixelColor(x, y); }
 
-// Pixels that differ from the background, as the bounding box of the ink.
-QRect Ink(const SurfaceWidget& surface) {
-  QRect box;
+// The pixels of one colour, or (with `except`) of every other colour.
+std::set<std::pair<int, int>> Pixels(const SurfaceWidget& surface, lumo::OLE_COLOR color, bool except = false) {
+  std::set<std::pair<int, int>> found;
   for (int y = 0; y < surface.ScaleHeight(); ++y)
     for (int x = 0; x < surface.ScaleWidth(); ++x)
-      if (At(surface, x, y) != Color(kBack)) box |= QRect(x, y, 1, 1);
-  return box;
+      if ((At(surface, x, y) == Color(color)) != except) found.insert({x, y});
+  return found;
 }
 
-std::set<std::pair<int, int>> Lit(const SurfaceWidget& surface) {
-  std::set<std::pair<int, int>> lit;
-  for (int y = 0; y < surface.ScaleHeight(); ++y)
-    for (int x = 0; x < surface.ScaleWidth(); ++x)
-      if (At(surface, x, y) == Color(kPen)) lit.insert({x, y});
-  return lit;
+// The bounding box of everything that differs from the background.
+QRect Ink(const SurfaceWidget& surface) {
+  QRect box;
+  for (const auto& [x, y] : Pixels(surface, kBack, true)) box |= QRect(x, y, 1, 1);
+  return box;
 }
 
 }  // namespace
@@ -76,6 +68,7 @@ class SurfaceTest : public QObject {
 
  private:
   std::unique_ptr<SurfaceWidget> surface;
+  Recorder recorder;
 
  private slots:
   void init() {
@@ -84,6 +77,8 @@ class SurfaceTest : public QObject {
     surface->SetBackColor(kBack);
     surface->SetForeColor(kPen);
     surface->SetFillColor(kFill);
+    recorder = Recorder();
+    surface->SetListener(&recorder);
     QCOMPARE(surface->image().devicePixelRatio(), 1.0);
   }
   void cleanup() { surface.reset(); }
@@ -113,25 +108,23 @@ class SurfaceTest : public QObject {
     }
   }
 
-  void lineToLeavesOutEndPoint_data() {
+  void lineToLeavesOutEndPointAndCoversTheSamePixelsBothWays_data() {
     QTest::addColumn<QPoint>("from");
     QTest::addColumn<QPoint>("to");
     QTest::newRow("right") << QPoint(2, 3) << QPoint(12, 3);
-    QTest::newRow("left") << QPoint(12, 3) << QPoint(2, 3);
-    QTest::newRow("down") << QPoint(5, 1) << QPoint(5, 20);
     QTest::newRow("up") << QPoint(5, 20) << QPoint(5, 1);
     QTest::newRow("diagonal") << QPoint(1, 1) << QPoint(11, 11);
     QTest::newRow("shallow") << QPoint(2, 3) << QPoint(30, 10);
-    QTest::newRow("steep back") << QPoint(9, 30) << QPoint(3, 2);
+    QTest::newRow("ties every other step") << QPoint(0, 0) << QPoint(8, 4);
+    QTest::newRow("steep ties") << QPoint(3, 0) << QPoint(7, 16);
   }
-  void lineToLeavesOutEndPoint() {
+  void lineToLeavesOutEndPointAndCoversTheSamePixelsBothWays() {
     QFETCH(QPoint, from);
     QFETCH(QPoint, to);
     surface->MoveToEx(from.x(), from.y());
     surface->LineTo(to.x(), to.y());
-    const auto lit = Lit(*surface);
-    QVERIFY(lit.count({from.x(), from.y()}));
-    QVERIFY(!lit.count({to.x(), to.y()}));
+    auto lit = Pixels(*surface, kPen);
+    QVERIFY(lit.count({from.x(), from.y()}) && !lit.count({to.x(), to.y()}));
     const QPoint d = to - from;
     QCOMPARE(int(lit.size()), std::max(std::abs(d.x()), std::abs(d.y())));
     for (const auto& [x, y] : lit) {
@@ -141,27 +134,13 @@ class SurfaceTest : public QObject {
       const double offset = xMajor ? y - (from.y() + along * d.y()) : x - (from.x() + along * d.x());
       QVERIFY(std::abs(offset) <= 0.5);
     }
-  }
-
-  void lineCoversSamePixelsBothWays_data() {
-    QTest::addColumn<QPoint>("a");
-    QTest::addColumn<QPoint>("b");
-    QTest::newRow("ties every other step") << QPoint(0, 0) << QPoint(8, 4);
-    QTest::newRow("steep ties") << QPoint(3, 0) << QPoint(7, 16);
-  }
-  void lineCoversSamePixelsBothWays() {
-    QFETCH(QPoint, a);
-    QFETCH(QPoint, b);
-    surface->MoveToEx(a.x(), a.y());
-    surface->LineTo(b.x(), b.y());
-    auto forward = Lit(*surface);
     surface->Cls();
-    surface->MoveToEx(b.x(), b.y());
-    surface->LineTo(a.x(), a.y());
-    auto backward = Lit(*surface);
-    forward.insert({b.x(), b.y()});
-    backward.insert({a.x(), a.y()});
-    QVERIFY(forward == backward);
+    surface->MoveToEx(to.x(), to.y());
+    surface->LineTo(from.x(), from.y());
+    auto backward = Pixels(*surface, kPen);
+    lit.insert({to.x(), to.y()});
+    backward.insert({from.x(), from.y()});
+    QVERIFY(lit == backward);
   }
 
   void polygonFillsAndOutlinesTheHexagon() {
@@ -170,16 +149,13 @@ class SurfaceTest : public QObject {
     surface->Polygon(hexagon);
     for (const Point& vertex : hexagon) QCOMPARE(At(*surface, vertex.X, vertex.Y), Color(kPen));
     QCOMPARE(Ink(*surface), QRect(QPoint(54, 0), QPoint(71, 18)));
-    QCOMPARE(At(*surface, 62, 9), Color(kFill));
     // The fill stays inside the outline on every row.
     for (int y = 0; y <= 18; ++y) {
       int first = 54, last = 71;
       while (At(*surface, first, y) == Color(kBack)) ++first;
       while (At(*surface, last, y) == Color(kBack)) --last;
-      QCOMPARE(At(*surface, first, y), Color(kPen));
-      QCOMPARE(At(*surface, last, y), Color(kPen));
+      QVERIFY(At(*surface, first, y) == Color(kPen) && At(*surface, last, y) == Color(kPen));
     }
-
     // The selection mark: a two-pixel outline inside the hexagon, interior untouched.
     const lumo::OLE_COLOR mark = lumo::RGB(255, 0, 0);
     surface->SetForeColor(mark);
@@ -195,8 +171,7 @@ class SurfaceTest : public QObject {
   void drawEdgeRingsUseThePaletteBevel_data() {
     QTest::addColumn<int>("edge");
     QTest::addColumn<QList<QColor>>("rings");  // outer top-left, outer bottom-right, inner ...
-    const QColor light(Qt::yellow), shadow(Qt::black), highlight(Qt::white), dark(Qt::darkGray);
-    const QColor none;
+    const QColor light(Qt::yellow), shadow(Qt::black), highlight(Qt::white), dark(Qt::darkGray), none;
     QTest::newRow("sunken outer") << 2 << QList<QColor>{dark, highlight, none, none};
     QTest::newRow("raised inner") << 4 << QList<QColor>{highlight, dark, none, none};
     QTest::newRow("raised") << 5 << QList<QColor>{light, shadow, highlight, dark};
@@ -237,8 +212,7 @@ class SurfaceTest : public QObject {
     const QImage before = surface->image().copy();
     surface->DrawFocusRect(rect);
     for (int x = rect.Left; x < rect.Right; ++x) {
-      const bool dot = (x + rect.Top) % 2 == 0;
-      QCOMPARE(At(*surface, x, rect.Top) != before.pixelColor(x, rect.Top), dot);
+      QCOMPARE(At(*surface, x, rect.Top) != before.pixelColor(x, rect.Top), (x + rect.Top) % 2 == 0);
     }
     QCOMPARE(At(*surface, rect.Left + 3, rect.Top + 3), before.pixelColor(rect.Left + 3, rect.Top + 3));
     QCOMPARE(At(*surface, rect.Right, rect.Top), before.pixelColor(rect.Right, rect.Top));
@@ -261,8 +235,7 @@ class SurfaceTest : public QObject {
     surface->DrawTextA(text.toStdString(), {corners.x(), corners.y(), corners.width(), corners.height()}, format);
     const QRect ink = Ink(*surface);
     const QRect box(QPoint(corners.x(), corners.y()), QPoint(corners.width() - 1, corners.height() - 1));
-    QVERIFY(!ink.isEmpty());
-    QVERIFY(box.contains(ink));
+    QVERIFY(!ink.isEmpty() && box.contains(ink));
     QVERIFY(ink.top() < box.top() + surface->TextHeight("A") / 2);  // the top line
     if (format == 0) QVERIFY(ink.left() <= box.left() + 2);
     if (format == 1) QVERIFY(std::abs((ink.left() + ink.right()) - (box.left() + box.right())) <= 2);
@@ -270,29 +243,25 @@ class SurfaceTest : public QObject {
 
   void clsAndButtonFaceFollowThePalette() {
     QSignalSpy changed(surface.get(), &SurfaceWidget::paletteChanged);
-    surface->SetBackColor(lumo::sys::ButtonFace);
-    QVERIFY(FilledWith(*surface, surface->palette().color(QPalette::Button)));
     QPalette dark = surface->palette();
     dark.setColor(QPalette::Button, QColor(0x20, 0x20, 0x20));
     surface->setPalette(dark);
     QCOMPARE(changed.count(), 1);
-    QCOMPARE(surface->resolve(lumo::sys::ButtonFace), QColor(0x20, 0x20, 0x20));
+    surface->SetBackColor(lumo::sys::ButtonFace);
     surface->Rectangle(2, 2, 30, 30);
     surface->SetCurrentX(7);
     surface->Cls();
     QCOMPARE(surface->CurrentX(), 0.0);
-    QVERIFY(FilledWith(*surface, QColor(0x20, 0x20, 0x20)));
+    QCOMPARE(Pixels(*surface, lumo::RGB(0x20, 0x20, 0x20)).size(), size_t(120 * 40));
   }
 
   void moveConvertsTwipsAndKeepsTheDrawing() {
     QWidget parent;
     auto* child = new SurfaceWidget(&parent);
     child->SetBackColor(kBack);
-    child->SetForeColor(kPen);
     child->Rectangle(0, 0, 5, 5);
     child->Move(150, 307, 3000, 1208);  // 20.47 and 80.53 pixels
     QCOMPARE(child->geometry(), QRect(10, 20, 200, 81));
-    QCOMPARE(child->ScaleWidth(), 200);
     QCOMPARE(child->Width(), 3000);
     QCOMPARE(child->image().size(), QSize(200, 81));
     QCOMPARE(Ink(*child), QRect(0, 0, 5, 5));
@@ -302,16 +271,11 @@ class SurfaceTest : public QObject {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("expected");
-    const int none = Qt::NoModifier;
-    QTest::newRow("Return") << int(Qt::Key_Return) << none << "KeyDown 13 0";
-    QTest::newRow("Escape") << int(Qt::Key_Escape) << none << "KeyDown 27 0";
-    QTest::newRow("PageDown") << int(Qt::Key_PageDown) << none << "KeyDown 34 0";
-    QTest::newRow("Left") << int(Qt::Key_Left) << none << "KeyDown 37 0";
-    QTest::newRow("Down") << int(Qt::Key_Down) << none << "KeyDown 40 0";
-    QTest::newRow("7") << int(Qt::Key_7) << none << "KeyDown 55 0";
-    QTest::newRow("Q") << int(Qt::Key_Q) << none << "KeyDown 81 0";
-    QTest::newRow("F4") << int(Qt::Key_F4) << none << "KeyDown 115 0";
-    QTest::newRow("Tab") << int(Qt::Key_Tab) << none << "KeyDown 9 0";
+    QTest::newRow("Return") << int(Qt::Key_Return) << 0 << "KeyDown 13 0";
+    QTest::newRow("Escape") << int(Qt::Key_Escape) << 0 << "KeyDown 27 0";
+    QTest::newRow("Q") << int(Qt::Key_Q) << 0 << "KeyDown 81 0";
+    QTest::newRow("F4") << int(Qt::Key_F4) << 0 << "KeyDown 115 0";
+    QTest::newRow("keypad 7") << int(Qt::Key_7) << int(Qt::KeypadModifier) << "KeyDown 103 0";
     QTest::newRow("Shift+Right") << int(Qt::Key_Right) << int(Qt::ShiftModifier) << "KeyDown 39 1";
     QTest::newRow("Ctrl+Alt+Home") << int(Qt::Key_Home) << int(Qt::ControlModifier | Qt::AltModifier)
                                    << "KeyDown 36 6";
@@ -320,11 +284,10 @@ class SurfaceTest : public QObject {
     QFETCH(int, key);
     QFETCH(int, modifiers);
     QFETCH(QString, expected);
-    Recorder recorder;
-    surface->SetListener(&recorder);
     QTest::keyClick(surface.get(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
     // A modifier is a key of its own and comes first (Shift 16, Ctrl 17, Alt 18).
-    QCOMPARE(recorder.events.size(), 1 + qPopulationCount(uint(modifiers)));
+    const auto own = Qt::KeyboardModifiers(modifiers) & ~Qt::KeypadModifier;
+    QCOMPARE(recorder.events.size(), 1 + qPopulationCount(uint(own.toInt())));
     QCOMPARE(recorder.events.last(), expected);
   }
 
@@ -340,7 +303,6 @@ class SurfaceTest : public QObject {
     auto* child = new SurfaceWidget;
     layout->addWidget(child);
     layout->addWidget(new QLineEdit);
-    Recorder recorder;
     recorder.swallowKeys = swallow;
     child->SetListener(&recorder);
     window.show();
@@ -349,9 +311,7 @@ class SurfaceTest : public QObject {
     child->setFocus();
     QTest::keyClick(child, Qt::Key_Tab);
     QCOMPARE(child->hasFocus(), swallow);
-    const QStringList expected = swallow ? QStringList{"GotFocus", "KeyDown 9 0"}
-                                         : QStringList{"GotFocus", "KeyDown 9 0", "LostFocus"};
-    QCOMPARE(recorder.events, expected);
+    QCOMPARE(recorder.events, QStringList({"GotFocus", "KeyDown 9 0"}) + (swallow ? QStringList() : QStringList{"LostFocus"}));
     child->SetListener(nullptr);
   }
 
@@ -367,8 +327,6 @@ class SurfaceTest : public QObject {
     QFETCH(int, button);
     QFETCH(int, modifiers);
     QFETCH(QString, codes);
-    Recorder recorder;
-    surface->SetListener(&recorder);
     const auto qtButton = Qt::MouseButton(button);
     const auto qtModifiers = Qt::KeyboardModifiers(modifiers);
     QTest::mousePress(surface.get(), qtButton, qtModifiers, QPoint(13, 7));
@@ -379,8 +337,6 @@ class SurfaceTest : public QObject {
   }
 
   void doubleClickGivesDblClickInsteadOfSecondPress() {
-    Recorder recorder;
-    surface->SetListener(&recorder);
     QTest::mouseClick(surface.get(), Qt::LeftButton, {}, QPoint(4, 4));
     QTest::mouseDClick(surface.get(), Qt::LeftButton, {}, QPoint(4, 4));
     QTest::mouseRelease(surface.get(), Qt::LeftButton, {}, QPoint(4, 4));
@@ -388,12 +344,9 @@ class SurfaceTest : public QObject {
   }
 
   void captureEndsWithTheButtonRelease() {
-    Recorder recorder;
-    surface->SetListener(&recorder);
     surface->show();
     QVERIFY(QTest::qWaitForWindowExposed(surface.get()));
     surface->grabMouse();
-    QCOMPARE(QWidget::mouseGrabber(), surface.get());
     QTest::mouseMove(surface.get(), QPoint(-5, 3));
     QCOMPARE(QWidget::mouseGrabber(), surface.get());  // moving keeps it
     QTest::mousePress(surface.get(), Qt::LeftButton, {}, QPoint(-5, 3));
