@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "colorcombo/ColorComboEvents.h"
+#include "colorcombo/ComboDefaults.h"
+#include "colorcombo/FlagWhileAlive.h"
 #include "colorcombo/frmDropdown.h"
 #include "colormodel/CheckedMath.h"
 #include "colormodel/CommonGlobals.h"
@@ -19,44 +21,12 @@ namespace {
 
 constexpr const char* kModule = "LumoDropdown";
 
-// Initial values, which are also the defaults of the persisted keys.
-constexpr OLE_COLOR kDefaultBackColor = sys::ButtonFace;
-constexpr OLE_COLOR kDefaultForeColor = sys::ButtonText;
-constexpr bool kDefaultAllowAutomatic = true;
-constexpr bool kDefaultAllowMoreColors = true;
-constexpr OLE_COLOR kDefaultColor = 0x663300;
-constexpr OLE_COLOR kDefaultAutoColor = sys::ButtonShadow;
-constexpr const char* kDefaultAutomaticText = "Automatic";
-constexpr const char* kDefaultMoreColorsText = "More Colors...";
-constexpr bool kDefaultIsAutomatic = true;
-constexpr bool kDefaultEnabled = true;
-constexpr std::int32_t kDefaultPickStyle = cpsStandard;
-constexpr std::int32_t kDefaultOpenEffect = oecNone;
-constexpr std::int32_t kDefaultStyle = cscDropDown;
-constexpr bool kDefaultAllowAutoColorBox = true;
-constexpr bool kDefaultAllowHotTracking = true;
-
-// The colour bar keeps this margin inside the surface and off the drop button.
+// The colour bar's top left corner, inside the frame.
 constexpr std::int32_t kBarLeft = 8;
 constexpr std::int32_t kBarTop = 4;
 constexpr std::int32_t kDropButtonWidth = 13;
 
 std::int32_t Twips(std::int32_t pixels) { return checked::Mul(pixels, TwipsPerPixel); }
-
-// Lowers a flag on the way out, unless the object that holds it has died meanwhile.
-class FlagWhileAlive {
- public:
-  FlagWhileAlive(bool& flag, std::weak_ptr<bool> alive) : flag_(flag), alive_(std::move(alive)) { flag_ = true; }
-  FlagWhileAlive(const FlagWhileAlive&) = delete;
-  FlagWhileAlive& operator=(const FlagWhileAlive&) = delete;
-  ~FlagWhileAlive() {
-    if (!alive_.expired()) flag_ = false;
-  }
-
- private:
-  bool& flag_;
-  std::weak_ptr<bool> alive_;
-};
 
 }  // namespace
 
@@ -155,7 +125,7 @@ void ColorCombo::SetAutoColor(OLE_COLOR value) {
   TrapAndNotify("AutoColor [Let]", [&] { m_AutoColor = value; });
 }
 
-// Reported and notified as "Color", without " [Let]": hosts match on that name.
+// Reported and notified as "Color", without " [Let]"; kept on purpose.
 void ColorCombo::SetColor(OLE_COLOR value) {
   TrapAndNotify("Color", [&] {
     m_Color = value;
@@ -238,22 +208,22 @@ void ColorCombo::UserControl_Initialize() {
 }
 
 void ColorCombo::SetInitialState() {
-  m_BackColor = kDefaultBackColor;
-  m_ForeColor = kDefaultForeColor;
-  m_AllowAutomatic = kDefaultAllowAutomatic;
-  m_AllowMoreColors = kDefaultAllowMoreColors;
-  m_AutoColor = kDefaultAutoColor;
-  m_Color = kDefaultColor;
-  m_AutomaticText = kDefaultAutomaticText;
-  m_MoreColorsText = kDefaultMoreColorsText;
-  m_IsAutomatic = kDefaultIsAutomatic;
-  m_Enabled = kDefaultEnabled;
-  m_PickStyle = kDefaultPickStyle;
-  m_OpenEffect = kDefaultOpenEffect;
-  m_Style = kDefaultStyle;
+  m_BackColor = ComboDefaults::BackColor;
+  m_ForeColor = ComboDefaults::ForeColor;
+  m_AllowAutomatic = ComboDefaults::AllowAutomatic;
+  m_AllowMoreColors = ComboDefaults::AllowMoreColors;
+  m_AutoColor = ComboDefaults::AutoColor;
+  m_Color = ComboDefaults::Color;
+  m_AutomaticText = ComboDefaults::AutomaticText;
+  m_MoreColorsText = ComboDefaults::MoreColorsText;
+  m_IsAutomatic = ComboDefaults::IsAutomatic;
+  m_Enabled = ComboDefaults::Enabled;
+  m_PickStyle = ComboDefaults::PickStyle;
+  m_OpenEffect = ComboDefaults::OpenEffect;
+  m_Style = ComboDefaults::Style;
   m_Caption = site_.AmbientDisplayName();
-  m_AllowAutoColorBox = kDefaultAllowAutoColorBox;
-  m_AllowHotTracking = kDefaultAllowHotTracking;
+  m_AllowAutoColorBox = ComboDefaults::AllowAutoColorBox;
+  m_AllowHotTracking = ComboDefaults::AllowHotTracking;
 }
 
 void ColorCombo::EnsureEventPass() {
@@ -277,23 +247,23 @@ void ColorCombo::UserControl_InitProperties() {
 void ColorCombo::UserControl_ReadProperties(const PropertyBag& bag) {
   Trap("UserControl_ReadProperties", [&] {
     EnsureEventPass();
-    m_BackColor = bag.ReadLong("BackColor", kDefaultBackColor);
-    m_ForeColor = bag.ReadLong("Forecolor", kDefaultForeColor);
-    m_AllowAutomatic = bag.ReadBoolean("AllowAutomatic", kDefaultAllowAutomatic);
-    m_AllowMoreColors = bag.ReadBoolean("AllowMoreColors", kDefaultAllowMoreColors);
-    m_Color = bag.ReadLong("Color", kDefaultColor);
-    m_AutoColor = bag.ReadLong("AutoColor", kDefaultAutoColor);
+    m_BackColor = bag.ReadLong("BackColor", ComboDefaults::BackColor);
+    m_ForeColor = bag.ReadLong("Forecolor", ComboDefaults::ForeColor);
+    m_AllowAutomatic = bag.ReadBoolean("AllowAutomatic", ComboDefaults::AllowAutomatic);
+    m_AllowMoreColors = bag.ReadBoolean("AllowMoreColors", ComboDefaults::AllowMoreColors);
+    m_Color = bag.ReadLong("Color", ComboDefaults::Color);
+    m_AutoColor = bag.ReadLong("AutoColor", ComboDefaults::AutoColor);
     SetFont(bag.ReadFont("Font", site_.AmbientFont()));
-    m_AutomaticText = bag.ReadText("AutomaticText", kDefaultAutomaticText);
-    m_MoreColorsText = bag.ReadText("MoreColorsText", kDefaultMoreColorsText);
-    m_IsAutomatic = bag.ReadBoolean("IsAutomatic", kDefaultIsAutomatic);
-    m_Enabled = bag.ReadBoolean("Enabled", kDefaultEnabled);
-    m_PickStyle = bag.ReadLong("PickStyle", kDefaultPickStyle);
-    m_OpenEffect = bag.ReadLong("OpenEffect", kDefaultOpenEffect);
-    m_Style = bag.ReadLong("Style", kDefaultStyle);
-    m_Caption = bag.ReadText("Caption", "");
-    m_AllowAutoColorBox = bag.ReadBoolean("AllowAutoColorBox", kDefaultAllowAutoColorBox);
-    m_AllowHotTracking = bag.ReadBoolean("AllowHotTracking", kDefaultAllowHotTracking);
+    m_AutomaticText = bag.ReadText("AutomaticText", ComboDefaults::AutomaticText);
+    m_MoreColorsText = bag.ReadText("MoreColorsText", ComboDefaults::MoreColorsText);
+    m_IsAutomatic = bag.ReadBoolean("IsAutomatic", ComboDefaults::IsAutomatic);
+    m_Enabled = bag.ReadBoolean("Enabled", ComboDefaults::Enabled);
+    m_PickStyle = bag.ReadLong("PickStyle", ComboDefaults::PickStyle);
+    m_OpenEffect = bag.ReadLong("OpenEffect", ComboDefaults::OpenEffect);
+    m_Style = bag.ReadLong("Style", ComboDefaults::Style);
+    m_Caption = bag.ReadText("Caption", ComboDefaults::Caption);
+    m_AllowAutoColorBox = bag.ReadBoolean("AllowAutoColorBox", ComboDefaults::AllowAutoColorBox);
+    m_AllowHotTracking = bag.ReadBoolean("AllowHotTracking", ComboDefaults::AllowHotTracking);
     CalculateAccessKey();
     Refresh();
   });
@@ -303,23 +273,23 @@ void ColorCombo::UserControl_ReadProperties(const PropertyBag& bag) {
 // the surface's, with the host's font as its default.
 void ColorCombo::UserControl_WriteProperties(PropertyBag& bag) const {
   Trap("UserControl_WriteProperties", [&] {
-    bag.WriteProperty("BackColor", Variant(BackColor()), Variant(kDefaultBackColor));
-    bag.WriteProperty("Forecolor", Variant(ForeColor()), Variant(kDefaultForeColor));
-    bag.WriteProperty("AllowAutomatic", Variant(AllowAutomatic()), Variant(kDefaultAllowAutomatic));
-    bag.WriteProperty("AllowMoreColors", Variant(AllowMoreColors()), Variant(kDefaultAllowMoreColors));
-    bag.WriteProperty("Color", Variant(m_Color), Variant(kDefaultColor));
-    bag.WriteProperty("AutoColor", Variant(m_AutoColor), Variant(kDefaultAutoColor));
+    bag.WriteProperty("BackColor", Variant(BackColor()), Variant(ComboDefaults::BackColor));
+    bag.WriteProperty("Forecolor", Variant(ForeColor()), Variant(ComboDefaults::ForeColor));
+    bag.WriteProperty("AllowAutomatic", Variant(AllowAutomatic()), Variant(ComboDefaults::AllowAutomatic));
+    bag.WriteProperty("AllowMoreColors", Variant(AllowMoreColors()), Variant(ComboDefaults::AllowMoreColors));
+    bag.WriteProperty("Color", Variant(m_Color), Variant(ComboDefaults::Color));
+    bag.WriteProperty("AutoColor", Variant(m_AutoColor), Variant(ComboDefaults::AutoColor));
     bag.WriteProperty("Font", Variant(picScreen.Font()), Variant(site_.AmbientFont()));
-    bag.WriteProperty("AutomaticText", Variant(AutomaticText()), Variant(kDefaultAutomaticText));
-    bag.WriteProperty("MoreColorsText", Variant(MoreColorsText()), Variant(kDefaultMoreColorsText));
-    bag.WriteProperty("IsAutomatic", Variant(IsAutomatic()), Variant(kDefaultIsAutomatic));
-    bag.WriteProperty("Enabled", Variant(Enabled()), Variant(kDefaultEnabled));
-    bag.WriteProperty("PickStyle", Variant(PickStyle()), Variant(kDefaultPickStyle));
-    bag.WriteProperty("OpenEffect", Variant(OpenEffect()), Variant(kDefaultOpenEffect));
-    bag.WriteProperty("Style", Variant(Style()), Variant(kDefaultStyle));
-    bag.WriteProperty("Caption", Variant(Caption()), Variant(""));
-    bag.WriteProperty("AllowAutoColorBox", Variant(AllowAutoColorBox()), Variant(kDefaultAllowAutoColorBox));
-    bag.WriteProperty("AllowHotTracking", Variant(AllowHotTracking()), Variant(kDefaultAllowHotTracking));
+    bag.WriteProperty("AutomaticText", Variant(AutomaticText()), Variant(ComboDefaults::AutomaticText));
+    bag.WriteProperty("MoreColorsText", Variant(MoreColorsText()), Variant(ComboDefaults::MoreColorsText));
+    bag.WriteProperty("IsAutomatic", Variant(IsAutomatic()), Variant(ComboDefaults::IsAutomatic));
+    bag.WriteProperty("Enabled", Variant(Enabled()), Variant(ComboDefaults::Enabled));
+    bag.WriteProperty("PickStyle", Variant(PickStyle()), Variant(ComboDefaults::PickStyle));
+    bag.WriteProperty("OpenEffect", Variant(OpenEffect()), Variant(ComboDefaults::OpenEffect));
+    bag.WriteProperty("Style", Variant(Style()), Variant(ComboDefaults::Style));
+    bag.WriteProperty("Caption", Variant(Caption()), Variant(ComboDefaults::Caption));
+    bag.WriteProperty("AllowAutoColorBox", Variant(AllowAutoColorBox()), Variant(ComboDefaults::AllowAutoColorBox));
+    bag.WriteProperty("AllowHotTracking", Variant(AllowHotTracking()), Variant(ComboDefaults::AllowHotTracking));
   });
 }
 
@@ -534,6 +504,8 @@ void ColorCombo::PressButton() {
     ColorBox* box = dropdown.ColorBox1();
     FormWindow* window = dropdown.Window();
     if (box == nullptr || window == nullptr) throw RuntimeError(err::ObjectNotSet);
+    // The grid names a colour only when one of its cells is chosen, so the last
+    // pick's name stays with the combo (LastColorName).
     box->SetAllowMoreColors(m_AllowMoreColors);
     box->SetAllowAutomatic(m_AllowAutomatic);
     box->SetAutoColor(m_AutoColor);
