@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -72,6 +74,15 @@ TEST_F(Hexagon, InitialisePaintsEachCellInItsOwnColourAndStoresItsBox) {
   EXPECT_EQ(polygons[0].FillStyle, fill::Solid);
   EXPECT_EQ(polygons[127].Args,
             (std::vector<std::int32_t>{36, 214, 54, 206, 71, 214, 71, 234, 55, 242, 54, 242, 36, 234}));
+  // Rows 15 pixels apart, each at its offset in steps of 9 (the lower grey row from X 3).
+  std::map<std::int32_t, std::int32_t> rowLeft;  // top of the row's outline -> its first left
+  for (const auto& polygon : polygons) {
+    const auto [it, added] = rowLeft.emplace(polygon.Args[1], polygon.Args[0]);
+    if (!added) it->second = std::min(it->second, polygon.Args[0]);
+  }
+  EXPECT_EQ(rowLeft, (std::map<std::int32_t, std::int32_t>{{4, 54},    {19, 45},   {34, 36},   {49, 27},  {64, 18},
+                                                           {79, 9},    {94, 0},    {109, 9},   {124, 18}, {139, 27},
+                                                           {154, 36},  {169, 45},  {184, 54},  {214, 36}, {229, 99}}));
   const CellPtr white = Cell(128);
   EXPECT_EQ((Rect{white->BoundLeft(), white->BoundTop(), white->BoundRight(), white->BoundBottom()}),
             (Rect{36, 214, 71, 234}));
@@ -101,38 +112,34 @@ TEST_F(Hexagon, SelectionMarkIsInsetThreeLeftTwoRightInInvertedColourAtPenWidthT
 }
 
 struct SetColorCase {
+  bool automatic;
   OLE_COLOR color;
-  std::int32_t markedCell;
-  const char* event;
+  std::int32_t markedCell;  // 0: nothing marked, nothing drawn
+  const char* event;        // "": none
   friend void PrintTo(const SetColorCase& c, std::ostream* os) { *os << text::Hex(c.color); }
 };
 
 class HexagonColorSetter : public Hexagon, public ::testing::WithParamInterface<SetColorCase> {};
 
+// While automatic the colour is only stored; otherwise the exact cell, or cell 1, is marked.
 TEST_P(HexagonColorSetter, MarksTheExactCellOrCellOneAndReportsTheSetColour) {
-  MakeManual();
+  if (!GetParam().automatic) MakeManual();
+  screen.ClearCalls();
   hexagon.SetColor(GetParam().color);
   EXPECT_EQ(Selected(), GetParam().markedCell);
   EXPECT_EQ(hexagon.Color(), GetParam().color);
-  EXPECT_EQ(events.Seen, std::vector<std::string>{GetParam().event});
+  EXPECT_EQ(events.Seen, *GetParam().event ? std::vector<std::string>{GetParam().event} : std::vector<std::string>{});
+  if (GetParam().markedCell == 0) EXPECT_EQ(screen.CountOf("Polygon"), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     TableAndOutside, HexagonColorSetter,
-    ::testing::Values(SetColorCase{0xFFFFFF, 64, "ColorChanged FFFFFF Hex={FF,FF,FF} Hex={FF,FF,FF}"},
-                      SetColorCase{RGB(0xFF, 0x66, 0x66), 100, "ColorChanged 6666FF Hex={FF,66,66} Hex={FF,66,66}"},
-                      SetColorCase{RGB(1, 2, 3), 1, "ColorChanged 30201 Hex={01,02,03} Hex={01,02,03}"},
-                      SetColorCase{0, 135, "ColorChanged 0 Hex={00,00,00} Hex={00,00,00}"}),
-    [](const auto& info) { return "Marks" + std::to_string(info.param.markedCell); });
-
-TEST_F(Hexagon, WhileAutomaticTheColourIsOnlyStored) {
-  screen.ClearCalls();
-  hexagon.SetColor(0xFFFFFF);
-  hexagon.SetIsAutomatic(true);
-  EXPECT_EQ(hexagon.Color(), 0xFFFFFF);
-  EXPECT_TRUE(events.Seen.empty());
-  EXPECT_EQ(screen.CountOf("Polygon"), 0);
-}
+    ::testing::Values(SetColorCase{false, 0xFFFFFF, 64, "ColorChanged FFFFFF Hex={FF,FF,FF} Hex={FF,FF,FF}"},
+                      SetColorCase{false, RGB(0xFF, 0x66, 0x66), 100, "ColorChanged 6666FF Hex={FF,66,66} Hex={FF,66,66}"},
+                      SetColorCase{false, RGB(1, 2, 3), 1, "ColorChanged 30201 Hex={01,02,03} Hex={01,02,03}"},
+                      SetColorCase{false, 0, 135, "ColorChanged 0 Hex={00,00,00} Hex={00,00,00}"},
+                      SetColorCase{true, 0xFFFFFF, 0, ""}),
+    [](const auto& info) { return (info.param.automatic ? "Automatic" : "Marks") + std::to_string(info.param.markedCell); });
 
 struct ClickCase {
   const char* name;
@@ -165,16 +172,13 @@ INSTANTIATE_TEST_SUITE_P(
                       ClickCase{"OnTheCurrentColour", false, 0xFFFFFF, {kClickWhite}}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(Hexagon, ReleasingOnAnotherCellCancelsAndDoubleClickThenDoesNothing) {
+TEST_F(Hexagon, ReleasingOnAnotherCellChoosesNothingAndOnlyACompletedClickGetsADoubleClick) {
   screen.MouseDown(Centre(64).X, Centre(64).Y);
   screen.MouseUp(Centre(65).X, Centre(65).Y);
   screen.DoubleClick();
   EXPECT_TRUE(events.Seen.empty());
   EXPECT_TRUE(hexagon.IsAutomatic());
   EXPECT_EQ(hexagon.Color(), ColorHexagon::DefaultColor);
-}
-
-TEST_F(Hexagon, DoubleClickAfterACompletedClickReportsTheCurrentColour) {
   Click(135);
   events.Seen.clear();
   screen.DoubleClick();
