@@ -95,26 +95,21 @@ INSTANTIATE_TEST_SUITE_P(
         CloseCase{"TitleBar", [](TestForm& f) { f.CloseFromTitleBar(); }, {Variant(false), Variant()}}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(PopupFixture, CustomTakesTheChoosersColourThroughTheHexagon) {
-  dialog.SetIsAutomatic(false);
-  host.Chooser.NextChoice = RGB(0xFF, 0, 0);
-  Form().ClickControl("cmdCustom");
-  EXPECT_TRUE(host.Chooser.CancelError());
-  EXPECT_EQ(dialog.Color(), RGB(0xFF, 0, 0));
-  EXPECT_EQ(Swatch("picNew"), RGB(0xFF, 0, 0));
-  EXPECT_EQ(BoxText(), "Hex={FF,00,00}");
-}
-
-TEST_F(PopupFixture, CancelInTheChooserChangesNothingSilently) {
+TEST_F(PopupFixture, CustomTakesTheChoosersColourThroughTheHexagonAndACancelChangesNothing) {
   dialog.SetIsAutomatic(false);
   dialog.SetColor(0xFFFFFF);
   host.Chooser.NextChoice.reset();
   Form().ClickControl("cmdCustom");
-  Form().ClickControl("cmdSelect");
-  EXPECT_EQ(host.Chooser.Shows, 1);
+  EXPECT_TRUE(host.Chooser.CancelError());
   EXPECT_EQ(dialog.Color(), 0xFFFFFF);
-  EXPECT_EQ(BoxText(), "Hex={FF,FF,FF}");
   EXPECT_TRUE(host.Messages.Shown.empty());
+  host.Chooser.NextChoice = RGB(0xFF, 0, 0);
+  Form().ClickControl("cmdSelect");  // idle: nothing happens
+  Form().ClickControl("cmdCustom");
+  EXPECT_EQ(host.Chooser.Shows, 2);
+  EXPECT_EQ(dialog.Color(), RGB(0xFF, 0, 0));
+  EXPECT_EQ(Swatch("picNew"), RGB(0xFF, 0, 0));
+  EXPECT_EQ(BoxText(), "Hex={FF,00,00}");
 }
 
 }  // namespace
