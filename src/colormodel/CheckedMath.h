@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-// The old platform's whole-number rules, in one place so that nothing re-implements
+// The library's whole-number rules, in one place so that nothing re-implements
 // them: 32-bit signed arithmetic that raises overflow (code 6) instead of wrapping,
 // conversion to whole numbers by round-half-to-even, and integer division that
 // truncates toward zero (code 11 on a zero divisor).

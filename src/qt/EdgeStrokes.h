@@ -24,7 +24,7 @@ struct EdgeStroke {
 // bottom-right lines are drawn after the top-left ones, so the top-right and
 // bottom-left corner pixels take the bottom-right colour. The colours, by system
 // colour index (16 button shadow, 20 button highlight, 21 3-D dark shadow,
-// 22 3-D light), as the platform's user interface library chooses them:
+// 22 3-D light), chosen so a bevel keeps its light-to-dark order in every theme:
 //
 //   border                     top-left   bottom-right
 //   raised outer (1)               22          21

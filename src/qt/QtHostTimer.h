@@ -10,7 +10,7 @@ class QTimer;
 namespace LumoColorCombo::host {
 
 // A control's or form's Timer1 on a QTimer. It runs only while enabled with a positive
-// interval (an interval of 0 never ticks, as on the platform), and changing the
+// interval (an interval of 0 never ticks), and changing the
 // interval of a running timer restarts its count. The tick may destroy this object.
 class QtHostTimer : public lumo::HostTimer {
  public:

@@ -15,7 +15,7 @@ constexpr std::int32_t kButtonsMask = 0x7;
 constexpr std::int32_t kIconMask = 0x70;
 constexpr std::int32_t kDefaultShift = 8;
 
-// Button codes the platform answers.
+// Button codes MsgBox answers.
 constexpr std::int32_t kOk = 1;
 constexpr std::int32_t kCancel = 2;
 
@@ -48,7 +48,7 @@ std::vector<Choice> ChoicesOf(std::int32_t style) {
 }
 
 // Escape answers Cancel where there is one, and the only button of a one-button box;
-// boxes without either ignore Escape, as the platform's do.
+// boxes without either ignore Escape, so the answer is always a button of the box.
 void SetEscapeButton(QMessageBox& box, const std::vector<Choice>& choices) {
   for (const Choice& choice : choices) {
     if (choice.code == kCancel) box.setEscapeButton(choice.button);

@@ -7,8 +7,8 @@
 
 namespace LumoColorCombo::host {
 
-// A control's saved properties as a QVariantMap, one key per property. Like the
-// platform's form file it leaves out a value equal to its default, so a control saved
+// A control's saved properties as a QVariantMap, one key per property. Like every form
+// file of the library it leaves out a value equal to its default, so a control saved
 // with its defaults produces an empty bag. It saves to and loads from text (JSON) so a
 // form's properties can be kept in a file; text that is not a saved bag loads as an
 // empty one, and the controls' typed reads then fall back to their defaults.

@@ -8,7 +8,7 @@
 namespace LumoColorCombo::host {
 
 bool Rasterizer::tiesStepMinor(long long dx, long long dy) {
-  // Where the ideal line passes exactly between two pixels, the platform takes the
+  // Where the ideal line passes exactly between two pixels, the library takes the
   // step in the minor direction early for lines running up-left of the main diagonals
   // and late for the others. Counted clockwise from the +x axis (y grows downwards),
   // the early octants are the 3rd, 5th, 6th and 8th.

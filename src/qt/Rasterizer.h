@@ -14,13 +14,13 @@ struct PixelRun {
   friend bool operator==(const PixelRun&, const PixelRun&) = default;
 };
 
-// The platform's rules for which pixels a line or a filled polygon covers, on whole
+// The library's rules for which pixels a line or a filled polygon covers, on whole
 // pixel coordinates (pixel (x, y) is the square whose top-left corner is (x, y)).
 class Rasterizer {
  public:
   // The pixels of a one-pixel line, starting with `from` and stopping before `to`.
   // Bresenham's walk, with ties between two candidate pixels settled by the direction
-  // of travel the way the platform settles them, so a line drawn backwards covers the
+  // of travel as the library's pixel rules settle them, so a line drawn backwards covers the
   // same pixels as forwards (apart from the end point swap).
   static std::vector<lumo::Point> line(lumo::Point from, lumo::Point to);
 

@@ -23,8 +23,7 @@
 namespace LumoColorCombo::host {
 namespace {
 
-// The platform measures fonts at 96 dots per inch, the same screen on which a pixel is
-// 15 twips.
+// Fonts are measured at 96 dots per inch, the same screen on which a pixel is 15 twips.
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
 // DrawTextA's format bits beyond the two that Geometry.h names.
@@ -38,7 +37,7 @@ constexpr std::int32_t kFormatNoPrefix = 0x800;
 
 bool HasBit(std::int32_t format, std::int32_t bit) { return (format & bit) != 0; }
 
-// Qt's alignment for a DrawTextA format. Like the platform, an ampersand marks the next
+// Qt's alignment for a DrawTextA format. As the controls expect, an ampersand marks the next
 // character as the access key (drawn underlined, "&&" draws one) unless told otherwise;
 // vertical placement applies to single-line text only.
 int TextFlags(std::int32_t format) {
@@ -230,8 +229,8 @@ void SurfaceWidget::DrawEdge(const lumo::Rect& rect, std::int32_t edgeKind, std:
 }
 
 void SurfaceWidget::DrawFocusRect(const lumo::Rect& rect) {
-  // Four one-pixel bands inverted through a checkerboard, as the platform's pattern
-  // brush does: top and bottom rows full width, the side columns between them.
+  // Four one-pixel bands inverted through a checkerboard pattern: top and bottom rows
+  // full width, the side columns between them.
   const auto [left, top, right, bottom] = rect;
   PixelCanvas canvas(backing());
   canvas.invertCheckerboard(left, top, right, top + 1);
@@ -318,9 +317,9 @@ void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (Listener() == nullptr || button == 0) return;
   Listener()->MouseUp(button, VirtualKeys::shiftState(event->modifiers()), event->position().x(),
                       event->position().y());
-  // A picture surface's capture ends with the last button's release, as on the desktop
-  // the controls come from: a grid that took the mouse to see a press outside it must
-  // not keep the whole application's mouse after that press.
+  // A picture surface's capture ends with the last button's release: a grid that took
+  // the mouse to see a press outside it must not keep the whole application's mouse
+  // after that press.
   if (QWidget::mouseGrabber() == this && event->buttons() == Qt::NoButton) releaseMouse();
 }
 

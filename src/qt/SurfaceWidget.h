@@ -12,7 +12,7 @@ namespace LumoColorCombo::host {
 // image and shows it in paintEvent.
 //
 // Coordinates are logical pixels. The image carries the widget's device pixel ratio, so
-// at 1.5x or 2x each logical pixel is a block of device pixels and the platform's pixel
+// at 1.5x or 2x each logical pixel is a block of device pixels and the library's pixel
 // rules (right and bottom edges left out, line end points not drawn) hold per logical
 // pixel while everything stays sharp; text is drawn at the full device resolution.
 //
@@ -22,8 +22,8 @@ namespace LumoColorCombo::host {
 //
 // Input goes to the listener: mouse positions as logical pixels (outside the widget
 // while the mouse is grabbed), buttons 1 left, 2 right, 4 middle, shift mask 1 Shift,
-// 2 Ctrl, 4 Alt, keys as virtual-key codes. A double click arrives, as on the platform,
-// as press, release, DblClick, release: Qt turns the second press into the double-click
+// 2 Ctrl, 4 Alt, keys as virtual-key codes. A double click arrives, as the controls
+// expect, as press, release, DblClick, release: Qt turns the second press into the double-click
 // event, which raises DblClick and no second MouseDown.
 class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   Q_OBJECT

@@ -12,7 +12,7 @@ namespace LumoColorCombo::host {
 // looked up in the palette given, so the controls follow the widget's palette and a
 // dark theme darkens them too.
 //
-// The palette roles stand in for the platform's system colour table: the 3-D roles
+// The palette roles stand in for the system colour table: the 3-D roles
 // (Light, Midlight, Button, Mid, Dark, Shadow) are Qt's own model of the same bevel
 // colours, so edges keep their light-to-dark order whatever the theme.
 class SystemColors {
@@ -20,8 +20,8 @@ class SystemColors {
   static QColor resolve(lumo::OLE_COLOR color, const QPalette& palette);
 
   // The colour of a system colour index (0 = scroll bar ... 30 = menu bar). Index 25
-  // has no meaning on the platform and, like any index outside 0-30, resolves to the
-  // fallback colour, black: what the platform answers for an index it does not know.
+  // has no meaning and, like any index outside 0-30, resolves to the fallback colour,
+  // black, so an unknown index still draws.
   static QColor systemColor(int index, const QPalette& palette);
 
   // An ordinary colour value's components, ignoring the top byte.

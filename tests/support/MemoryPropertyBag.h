@@ -8,7 +8,7 @@
 
 namespace lumo::testing {
 
-// An in-memory form file. Like the platform's, it leaves out values equal to their
+// An in-memory form file. Like the Qt host's, it leaves out values equal to their
 // default, and it records the order in which keys were read and written.
 class MemoryPropertyBag : public PropertyBag {
  public:
