@@ -51,6 +51,9 @@ class ColorBox : public SurfaceEvents, public ControlEvents {
   // The name of the last chosen cell. Choosing Automatic or More Colors leaves it as it
   // was (an Automatic Click passes it on); a left release that chooses nothing empties it.
   const std::string& ColorName() const { return m_ColorName; }
+  // Not published: the combo hands its last pick's name to the grid of its drop-down, so
+  // that an Automatic pick there passes that name on. Stores only.
+  void SetColorName(const std::string& value) { m_ColorName = value; }
   OLE_COLOR AutoColor() const { return m_AutoColor; }
   void SetAutoColor(OLE_COLOR value);
   const std::string& AutomaticText() const { return m_AutomaticText; }

@@ -504,12 +504,11 @@ void ColorCombo::PressButton() {
     ColorBox* box = dropdown.ColorBox1();
     FormWindow* window = dropdown.Window();
     if (box == nullptr || window == nullptr) throw RuntimeError(err::ObjectNotSet);
-    // The grid names a colour only when one of its cells is chosen, so the last
-    // pick's name stays with the combo (LastColorName).
     box->SetAllowMoreColors(m_AllowMoreColors);
     box->SetAllowAutomatic(m_AllowAutomatic);
     box->SetAutoColor(m_AutoColor);
     box->SetColor(m_Color);
+    box->SetColorName(m_LastColorName);
     box->SetIsAutomatic(m_IsAutomatic);
     box->SetAutomaticText(m_AutomaticText);
     box->SetMoreColorsText(m_MoreColorsText);

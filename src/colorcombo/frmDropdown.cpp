@@ -142,6 +142,7 @@ void frmDropdown::ShowPopup() {
     if (runtime_.PopupResultAt(0).ToBoolean()) {
       box.SetIsAutomatic(runtime_.PopupResultAt(2).ToBoolean());
       box.SetColor(runtime_.PopupResultAt(1).ToLong());
+      box.SetColorName(runtime_.PopupResultAt(3).ToText());
     }
     // The combo reads the dialog's record as the drop-down's own.
     LoadedWindow().Unload();

@@ -169,6 +169,17 @@ TEST_F(ComboHarness, FocusLossReappliesThePreviousRecord) {
   EXPECT_EQ(combo->LastColorName(), "Green");
 }
 
+// The grid of the next drop-down carries the last pick's name, so an Automatic pick there
+// passes it on instead of an empty name.
+TEST_F(ComboHarness, TheLastPicksNameTravelsThroughAnAutomaticPick) {
+  Open(kPickGreen);
+  Open([](Dropdown& d) {
+    EXPECT_EQ(d.box.ColorName(), "Green");
+    d.Press(d.Automatic());
+  });
+  EXPECT_EQ(host.Runtime.PopupResultAt(3).ToText(), "Green");
+}
+
 // --- hot tracking ----------------------------------------------------------------------------
 
 class HotTracking : public ComboHarness, public ::testing::WithParamInterface<bool> {};
