@@ -5,7 +5,8 @@
 namespace LumoColorCombo::host {
 
 void DropdownDesign::build(QtFormWindow& form) {
-  form.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+  form.setWindowFlags(Qt::Popup | Qt::FramelessWindowHint);
+  form.setAttribute(Qt::WA_NoMouseReplay);
   form.setBlocksOtherWindows(false);
   form.children().addHostedControl(QStringLiteral("ColorBox1")).move(0, 0);
 }

@@ -5,7 +5,10 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScreen>
+#include <QTimer>
+#include <QWindow>
 
 #include <utility>
 
@@ -37,6 +40,7 @@ QtFormWindow::QtFormWindow(QString formName, lumo::FormEvents& events)
 
 QtFormWindow::~QtFormWindow() {
   keyPreview_.setActive(false);
+  WatchForModalWindows(false);
   // A modal show still on the stack returns as soon as control gets back to it.
   if (modalLoop_) modalLoop_->exit();
 }
@@ -82,10 +86,7 @@ void QtFormWindow::PlaceFrame(const QRect& outer) {
 void QtFormWindow::Show(bool modal) {
   if (!loaded_ || (modal && modalLoop_)) return;
   PrepareShow(modal);
-  show();
-  if (pendingFrame_) PlaceFrame(*std::exchange(pendingFrame_, std::nullopt));
-  raise();
-  activateWindow();
+  Present();
   if (!modal) return;
 
   QEventLoop loop;
@@ -101,6 +102,38 @@ void QtFormWindow::PrepareShow(bool modal) {
   if (!isVisible()) setWindowModality(modal && blocksOtherWindows_ ? Qt::ApplicationModal : Qt::NonModal);
   if (!moved_ && centredOnFirstShow_) CentreOverActiveWindow();
   moved_ = true;
+}
+
+void QtFormWindow::Present() {
+  BelongToOpener();
+  show();
+  if (pendingFrame_) PlaceFrame(*std::exchange(pendingFrame_, std::nullopt));
+  raise();
+  if (!isPopup()) {
+    activateWindow();
+    return;
+  }
+  // Moves without a button reach a widget only if it tracks them: outside its children
+  // they are the popup's, to pass on to a child holding the mouse.
+  setMouseTracking(true);
+  // Qt gives an open popup the keys; its first child that takes the focus gets them.
+  QWidget* first = this;
+  do {
+    first = first->nextInFocusChain();
+  } while (first != this && !(first->focusPolicy() & Qt::TabFocus && first->isVisible() && first->isEnabled()));
+  if (first != this) first->setFocus(Qt::PopupFocusReason);
+  ActivateWhenExposed();
+  WatchForModalWindows(true);
+}
+
+// The active window opens the form: the form stacks over it (for a popup, the window
+// it is placed against) and draws with its palette.
+void QtFormWindow::BelongToOpener() {
+  QWidget* opener = QApplication::activeWindow();
+  if (opener == nullptr || opener == this) return;
+  setPalette(opener->palette());
+  if (windowHandle() == nullptr) create();
+  windowHandle()->setTransientParent(opener->windowHandle());
 }
 
 void QtFormWindow::CentreOverActiveWindow() {
@@ -124,6 +157,7 @@ bool QtFormWindow::UnloadWithMode(std::int32_t mode) {
 
   loaded_ = false;
   keyPreview_.setActive(false);
+  WatchForModalWindows(false);
   hide();
   events_.Form_Unload();
   if (modalLoop_) modalLoop_->exit();
@@ -148,6 +182,103 @@ lumo::Label& QtFormWindow::LabelNamed(const std::string& name) {
 
 void QtFormWindow::reject() { close(); }
 
+// --- popup forms ---------------------------------------------------------------------------
+
+void QtFormWindow::ActivateWhenExposed() {
+  activationPending_ = true;
+  QWindow* window = windowHandle();
+  if (window != nullptr && !window->isExposed()) {
+    window->installEventFilter(this);
+    return;
+  }
+  QMetaObject::invokeMethod(this, &QtFormWindow::DeliverActivation, Qt::QueuedConnection);
+}
+
+// From the event loop, not from inside the expose: the activation may run a whole
+// opening animation that yields to the loop.
+void QtFormWindow::DeliverActivation() {
+  if (!activationPending_ || !loaded_ || !isVisible()) return;
+  activationPending_ = false;
+  events_.Form_Activate();
+}
+
+// Qt sends a popup's mouse events that fall outside its children to the popup itself;
+// while a child holds the mouse (a grid that watches for a press outside it), they are
+// that child's, as a capture requires.
+bool QtFormWindow::ForwardToCapture(QMouseEvent& event) {
+  QWidget* holder = QWidget::mouseGrabber();
+  if (!isPopup() || holder == nullptr || !isAncestorOf(holder)) return false;
+  QMouseEvent forwarded(event.type(), holder->mapFromGlobal(event.globalPosition()), event.scenePosition(),
+                        event.globalPosition(), event.button(), event.buttons(), event.modifiers(),
+                        event.pointingDevice());
+  QCoreApplication::sendEvent(holder, &forwarded);
+  return true;
+}
+
+void QtFormWindow::mousePressEvent(QMouseEvent* event) {
+  if (!ForwardToCapture(*event)) QDialog::mousePressEvent(event);
+}
+
+void QtFormWindow::mouseMoveEvent(QMouseEvent* event) {
+  if (!ForwardToCapture(*event)) QDialog::mouseMoveEvent(event);
+}
+
+void QtFormWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (!ForwardToCapture(*event)) QDialog::mouseReleaseEvent(event);
+}
+
+void QtFormWindow::WatchForModalWindows(bool watch) {
+  if (watch == watchingModals_ || !QCoreApplication::instance()) return;
+  watchingModals_ = watch;
+  if (watch) {
+    QCoreApplication::instance()->installEventFilter(this);
+  } else {
+    QCoreApplication::instance()->removeEventFilter(this);
+  }
+}
+
+namespace {
+
+bool IsModalWindow(QObject* object, const QWidget* except) {
+  const auto* widget = qobject_cast<QWidget*>(object);
+  return widget != nullptr && widget != except && widget->isWindow() && widget->isModal();
+}
+
+}  // namespace
+
+// A popup takes every press and key in the application, so a modal window shown over
+// it (the More Colors dialog it opens, a message box) could not be used: the popup
+// loses the activation and hides until that window goes.
+void QtFormWindow::StepAside() {
+  steppedAside_ = true;
+  activationPending_ = false;
+  hide();
+  events_.Form_Deactivate();
+}
+
+// Once the modal window has gone, and only if the form kept itself loaded meanwhile.
+void QtFormWindow::ComeBack() {
+  if (!steppedAside_ || !loaded_ || QApplication::activeModalWidget() != nullptr) return;
+  steppedAside_ = false;
+  Present();
+}
+
+bool QtFormWindow::eventFilter(QObject* watched, QEvent* event) {
+  const QEvent::Type type = event->type();
+  if (type == QEvent::Expose && watched == windowHandle() && windowHandle()->isExposed()) {
+    watched->removeEventFilter(this);
+    QMetaObject::invokeMethod(this, &QtFormWindow::DeliverActivation, Qt::QueuedConnection);
+  } else if (type == QEvent::Show && loaded_ && isVisible() && IsModalWindow(watched, this)) {
+    StepAside();
+  } else if (type == QEvent::Hide && steppedAside_ && IsModalWindow(watched, this)) {
+    // Later, so that a form that unloads once the modal window returns never flashes.
+    QTimer::singleShot(0, this, &QtFormWindow::ComeBack);
+  }
+  return false;
+}
+
+// --- events ----------------------------------------------------------------------------------
+
 bool QtFormWindow::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::Show: keyPreview_.setActive(loaded_); break;
@@ -164,6 +295,13 @@ bool QtFormWindow::event(QEvent* event) {
 }
 
 void QtFormWindow::closeEvent(QCloseEvent* event) {
+  if (isPopup()) {
+    // Qt closes a popup by itself when the user turns elsewhere: for the form that is
+    // losing the activation, and the form decides whether it goes.
+    if (loaded_) events_.Form_Deactivate();
+    event->setAccepted(!loaded_);
+    return;
+  }
   if (UnloadWithMode(lumo::unloadmode::ControlMenu)) {
     event->accept();
   } else {

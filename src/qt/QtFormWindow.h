@@ -29,6 +29,18 @@ namespace LumoColorCombo::host {
 // - Positions and sizes are twips: Left/Top/Width/Height of the outer frame,
 //   ScaleWidth/ScaleHeight of the client area. The window system adds the frame when
 //   the window is first shown, so a Move made while hidden is applied again then.
+// - When shown, the window belongs to the window that was active: it stacks over it
+//   (transient parent) and takes its palette, so a dark application gets dark forms.
+// - A popup form (Qt::Popup in its design: the drop-down) is placed at its Move'd
+//   screen position over that window. Qt never activates a popup, so the form gets
+//   Form_Activate once it is exposed, the keyboard focus goes to its first child that
+//   takes it, and the window system reports it as the active window while it is open.
+//   When Qt closes it by itself (a press outside the application, the application
+//   losing the activation, the compositor dismissing it) the form gets Form_Deactivate
+//   and decides; a press outside it while one of its children holds the mouse goes to
+//   that child, as a capture does. While a modal window shows over it, the popup
+//   steps aside (hidden, Form_Deactivate), since Qt gives a popup all input; it comes
+//   back when that window goes, if the form is still loaded.
 // Once unloaded, the window delivers nothing more; the object stays valid until deleted.
 class QtFormWindow : public QDialog, public lumo::FormWindow {
   Q_OBJECT
@@ -65,6 +77,7 @@ class QtFormWindow : public QDialog, public lumo::FormWindow {
   FormChildren& children() { return children_; }
   const FormChildren& children() const { return children_; }
   bool isShowingModally() const { return modalLoop_ != nullptr; }
+  bool isPopup() const { return windowType() == Qt::Popup; }
   // A modal show of this form blocks the application's other windows (a dialog). A form
   // that must close when the user turns elsewhere (the drop-down) leaves them usable.
   void setBlocksOtherWindows(bool blocks) { blocksOtherWindows_ = blocks; }
@@ -77,16 +90,29 @@ class QtFormWindow : public QDialog, public lumo::FormWindow {
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   bool UnloadWithMode(std::int32_t mode);
   bool PreviewKey(QKeyEvent& event);
   void PrepareShow(bool modal);
+  void BelongToOpener();
+  void Present();
   void CentreOverActiveWindow();
   QSize FrameExtra() const;
   void PlaceFrame(const QRect& outer);
+  // --- popup forms ---
+  void ActivateWhenExposed();
+  void DeliverActivation();
+  bool ForwardToCapture(QMouseEvent& event);
+  void WatchForModalWindows(bool watch);
+  void StepAside();
+  void ComeBack();
 
   QString formName_;
   lumo::FormEvents& events_;
@@ -100,6 +126,11 @@ class QtFormWindow : public QDialog, public lumo::FormWindow {
   bool moved_ = false;
   bool blocksOtherWindows_ = false;
   bool centredOnFirstShow_ = false;
+  // A popup shown and waiting to be exposed before its Form_Activate.
+  bool activationPending_ = false;
+  // A popup hidden while a modal window runs over it.
+  bool steppedAside_ = false;
+  bool watchingModals_ = false;
 };
 
 }  // namespace LumoColorCombo::host

@@ -38,7 +38,9 @@ bool QtWindowSystem::ReleaseCapture() {
   return true;
 }
 
+// Qt never activates a popup, yet while one is open it has the user's attention.
 lumo::WindowHandle QtWindowSystem::GetActiveWindow() const {
+  if (QWidget* popup = QApplication::activePopupWidget()) return WidgetHandles::handleOf(popup);
   return WidgetHandles::handleOf(QApplication::activeWindow());
 }
 

@@ -8,9 +8,9 @@ namespace LumoColorCombo::host {
 
 // The platform's windows on Qt Widgets: the library's forms from their designs, the
 // primary screen, mouse capture as a widget's mouse grab that the window system holds
-// (see MouseCapture), the active window and focus widget, and processEvents as the
-// yield. Handles are widget addresses, resolved only against the live widgets, so a
-// handle that outlived its widget finds nothing.
+// (see MouseCapture), the active window (an open popup while there is one) and focus
+// widget, and processEvents as the yield. Handles are widget addresses, resolved only
+// against the live widgets, so a handle that outlived its widget finds nothing.
 class QtWindowSystem : public lumo::WindowSystem {
  public:
   std::unique_ptr<lumo::FormWindow> LoadForm(const std::string& name, lumo::FormEvents& events) override;
