@@ -156,7 +156,7 @@ void ColorCombo::setOpenEffect(OpenEffectConstants effect) { d->core->SetOpenEff
 ComboPickStyles ColorCombo::PickStyle() const { return static_cast<ComboPickStyles>(d->core->PickStyle()); }
 void ColorCombo::setPickStyle(ComboPickStyles style) { d->core->SetPickStyle(style); }
 bool ColorCombo::Enabled() const { return d->core->Enabled(); }
-void ColorCombo::setEnabled(bool enabled) { d->core->SetEnabled(enabled); }
+void ColorCombo::setComboEnabled(bool enabled) { d->core->SetEnabled(enabled); }
 QString ColorCombo::AutomaticText() const { return Text(d->core->AutomaticText()); }
 void ColorCombo::setAutomaticText(const QString& text) { d->core->SetAutomaticText(text.toStdString()); }
 QString ColorCombo::MoreColorsText() const { return Text(d->core->MoreColorsText()); }
@@ -172,7 +172,7 @@ void ColorCombo::setForeColor(OLE_COLOR color) { d->core->SetForeColor(color); }
 OLE_COLOR ColorCombo::BackColor() const { return d->core->BackColor(); }
 void ColorCombo::setBackColor(OLE_COLOR color) { d->core->SetBackColor(color); }
 QFont ColorCombo::Font() const { return host::SurfaceWidget::qtFont(d->core->Font()); }
-void ColorCombo::setFont(const QFont& font) { d->core->SetFont(host::QtControlSite::toStdFont(font)); }
+void ColorCombo::setComboFont(const QFont& font) { d->core->SetFont(host::QtControlSite::toStdFont(font)); }
 bool ColorCombo::AllowAutomatic() const { return d->core->AllowAutomatic(); }
 void ColorCombo::setAllowAutomatic(bool allow) { d->core->SetAllowAutomatic(allow); }
 bool ColorCombo::AllowMoreColors() const { return d->core->AllowMoreColors(); }
@@ -215,9 +215,9 @@ bool ColorCombo::isDroppedDown() const { return d->core->DroppedDown(); }
 QSize ColorCombo::sizeHint() const { return {kDefaultWidth, height()}; }
 QSize ColorCombo::minimumSizeHint() const { return {kMinimumWidth, height()}; }
 
-// QWidget::setEnabled reached through a QWidget pointer or a designer's "enabled" goes to
-// the control's Enabled, which every redraw applies to the widget again. Only the
-// combo's own setting counts (WA_ForceDisabled), not a disabled parent's.
+// QWidget::setEnabled on the combo (or a designer's "enabled") goes to the control's
+// Enabled, which every redraw applies to the widget again. Only the combo's own setting
+// counts (WA_ForceDisabled), not a disabled parent's.
 void ColorCombo::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::EnabledChange || !d || !d->core || !d->site.AmbientUserMode()) return;

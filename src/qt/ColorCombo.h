@@ -34,7 +34,7 @@ class ColorCombo : public QWidget {
   Q_PROPERTY(LumoColorCombo::CCStyleConstants Style READ Style WRITE setStyle)
   Q_PROPERTY(LumoColorCombo::OpenEffectConstants OpenEffect READ OpenEffect WRITE setOpenEffect)
   Q_PROPERTY(LumoColorCombo::ComboPickStyles PickStyle READ PickStyle WRITE setPickStyle)
-  Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)
+  Q_PROPERTY(bool Enabled READ Enabled WRITE setComboEnabled)
   Q_PROPERTY(QString AutomaticText READ AutomaticText WRITE setAutomaticText)
   Q_PROPERTY(QString MoreColorsText READ MoreColorsText WRITE setMoreColorsText)
   Q_PROPERTY(bool IsAutomatic READ IsAutomatic WRITE setIsAutomatic)
@@ -42,7 +42,7 @@ class ColorCombo : public QWidget {
   Q_PROPERTY(LumoColorCombo::OLE_COLOR Color READ Color WRITE setColor)
   Q_PROPERTY(LumoColorCombo::OLE_COLOR ForeColor READ ForeColor WRITE setForeColor)
   Q_PROPERTY(LumoColorCombo::OLE_COLOR BackColor READ BackColor WRITE setBackColor)
-  Q_PROPERTY(QFont Font READ Font WRITE setFont)
+  Q_PROPERTY(QFont Font READ Font WRITE setComboFont)
   Q_PROPERTY(bool AllowAutomatic READ AllowAutomatic WRITE setAllowAutomatic)
   Q_PROPERTY(bool AllowMoreColors READ AllowMoreColors WRITE setAllowMoreColors)
   // Declared after the published members, so that their order comes first.
@@ -67,9 +67,9 @@ class ColorCombo : public QWidget {
   ComboPickStyles PickStyle() const;
   void setPickStyle(ComboPickStyles style);
   // The control's own Enabled, which it applies to the widget at run time (a designer
-  // keeps it selectable). QWidget::setEnabled on the combo reaches it too.
+  // keeps it selectable). QWidget::setEnabled on the combo itself sets it too.
   bool Enabled() const;
-  void setEnabled(bool enabled);
+  void setComboEnabled(bool enabled);
   QString AutomaticText() const;
   void setAutomaticText(const QString& text);
   QString MoreColorsText() const;
@@ -86,10 +86,10 @@ class ColorCombo : public QWidget {
   void setForeColor(OLE_COLOR color);
   OLE_COLOR BackColor() const;
   void setBackColor(OLE_COLOR color);
-  // The control's font (not QWidget::font()): the field's texts use it and its height
-  // follows it.
+  // The control's font: the field's texts use it and its height follows it. Named apart
+  // from QWidget::setFont, which stays the widget's own font.
   QFont Font() const;
-  void setFont(const QFont& font);
+  void setComboFont(const QFont& font);
   bool AllowAutomatic() const;
   void setAllowAutomatic(bool allow);
   bool AllowMoreColors() const;

@@ -315,9 +315,20 @@ class ColorComboWidgetTest : public QObject {
 
     QFont larger = form.combo->Font();
     larger.setPixelSize(larger.pixelSize() * 2);
-    form.combo->setFont(larger);
+    form.combo->setComboFont(larger);
     QVERIFY(form.combo->height() > height);
     QCOMPARE(form.combo->width(), 250);
+  }
+
+  void qwidgetSetEnabledReachesTheControl() {
+    Form form;
+    form.window.setEnabled(false);  // a disabled form leaves the combo's own setting alone
+    QVERIFY(form.combo->Enabled());
+    form.window.setEnabled(true);
+    form.combo->setEnabled(false);
+    QVERIFY(!form.combo->Enabled());
+    form.combo->Refresh();  // the control's redraw applies its own setting: still disabled
+    QVERIFY(!form.combo->isEnabled());
   }
 
   void editsAColourColumnOfAnItemView() {
