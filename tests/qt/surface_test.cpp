@@ -117,6 +117,7 @@ class SurfaceTest : public QObject {
     QTest::newRow("shallow") << QPoint(2, 3) << QPoint(30, 10);
     QTest::newRow("ties every other step") << QPoint(0, 0) << QPoint(8, 4);
     QTest::newRow("steep ties") << QPoint(3, 0) << QPoint(7, 16);
+    QTest::newRow("steep ties down to the left") << QPoint(7, 0) << QPoint(3, 16);
   }
   void lineToLeavesOutEndPointAndCoversTheSamePixelsBothWays() {
     QFETCH(QPoint, from);
