@@ -76,9 +76,11 @@ struct Form {
   QComboBox* comboBox = new QComboBox(&window);
 };
 
+// Made on first use, gone before the application object.
+std::unique_ptr<Form> shared;
 Form& SharedForm() {
-  static Form form;
-  return form;
+  if (!shared) shared = std::make_unique<Form>();
+  return *shared;
 }
 
 // Opens the colour combo's drop-down and runs `inside` from within its modal loop once
@@ -210,5 +212,6 @@ int main(int argc, char** argv) {
   benchmark::RunSpecifiedBenchmarks(&reporter);
   reporter.PrintRatios();
   benchmark::Shutdown();
+  shared.reset();
   return 0;
 }
