@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "qt/AboutDialog.h"
 #include "qt/QtFormWindow.h"
 #include "qt/Twips.h"
 #include "qt/WidgetHandles.h"
@@ -54,5 +55,7 @@ lumo::Point QtWindowSystem::ClientToScreen(lumo::WindowHandle window, lumo::Poin
 }
 
 void QtWindowSystem::DoEvents() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
+
+void QtWindowSystem::ShowAboutBox(lumo::WindowHandle owner) { AboutDialog::run(WidgetHandles::widgetOf(owner)); }
 
 }  // namespace LumoColorCombo::host

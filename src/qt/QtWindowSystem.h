@@ -32,6 +32,9 @@ class QtWindowSystem : public lumo::WindowSystem {
 
   void DoEvents() override;
 
+  // The library's About box (AboutDialog), modal over the window that holds `owner`.
+  void ShowAboutBox(lumo::WindowHandle owner) override;
+
   FormDesigns& designs() { return designs_; }
 
  private:
