@@ -9,6 +9,8 @@
 
 #include "ComboPage.h"
 #include "GalleryWindow.h"
+#include "HoneycombPage.h"
+#include "PalettesPage.h"
 #include "qt/ColorBox.h"
 #include "qt/ColorHexagon.h"
 #include "qt/ColorSample.h"
@@ -73,13 +75,20 @@ void ScreenshotWriter::writeCombos() {
 }
 
 void ScreenshotWriter::writePalettes() {
-  showTabOf(window_.paletteBoxes().value(0));
-  for (LumoColorCombo::ColorBox* box : window_.paletteBoxes()) save(box->grab(), QStringLiteral("palette-") + box->objectName());
+  auto* page = window_.findChild<PalettesPage*>();
+  if (page == nullptr) return;
+  showTabOf(page->grid());
+  page->forEachPalette([this](LumoColorCombo::ColorBox& grid, const QString& name) {
+    settle();
+    save(grid.grab(), QStringLiteral("palette-") + name);
+  });
 }
 
 void ScreenshotWriter::writeHoneycomb() {
-  showTabOf(window_.hexagon());
-  LumoColorCombo::ColorHexagon* hexagon = window_.hexagon();
+  auto* page = window_.findChild<HoneycombPage*>();
+  if (page == nullptr) return;
+  LumoColorCombo::ColorHexagon* hexagon = page->hexagon();
+  showTabOf(hexagon);
   hexagon->setIsAutomatic(false);
   hexagon->setColor(0x3399FF);  // FF9933 red first: a cell of the honeycomb, so it is marked
   settle();
