@@ -1,5 +1,6 @@
 # Newcomer entry points:
-#   make test   installs what is missing, builds everything and runs every test
+#   make test   installs what is missing, builds everything and runs every test (the
+#               real-desktop suite, label x11, on a private Xvfb: scripts/run-on-xvfb.sh)
 #   make run    builds and starts the gallery (screenshots when there is no display)
 BUILD ?= build
 BUILD_TYPE ?= RelWithDebInfo

@@ -12,7 +12,7 @@ namespace LumoColorCombo {
 class ColorBox;
 }
 
-// Editors for the properties of the palette grids; every change goes to all of them.
+// Editors for the properties of a palette grid (every change goes to each grid added).
 class PaletteSettings : public QWidget {
   Q_OBJECT
 
