@@ -21,6 +21,14 @@
 #include "qt/WidgetHandles.h"
 
 namespace LumoColorCombo::host {
+namespace {
+
+bool IsModalWindow(QObject* object, const QWidget* except) {
+  const auto* widget = qobject_cast<QWidget*>(object);
+  return widget != nullptr && widget != except && widget->isWindow() && widget->isModal();
+}
+
+}  // namespace
 
 QtFormWindow::QtFormWindow(QString formName, lumo::FormEvents& events)
     : formName_(std::move(formName)),
@@ -236,15 +244,6 @@ void QtFormWindow::WatchForModalWindows(bool watch) {
     QCoreApplication::instance()->removeEventFilter(this);
   }
 }
-
-namespace {
-
-bool IsModalWindow(QObject* object, const QWidget* except) {
-  const auto* widget = qobject_cast<QWidget*>(object);
-  return widget != nullptr && widget != except && widget->isWindow() && widget->isModal();
-}
-
-}  // namespace
 
 // A popup takes every press and key in the application, so a modal window shown over
 // it (the More Colors dialog it opens, a message box) could not be used: the popup
