@@ -38,18 +38,26 @@ struct StyleLook {
   std::int32_t style;
   std::int32_t buttonWidth;
   bool edgeRoundTheField;
-  bool separator;
-  std::vector<OLE_COLOR> framePens;  // outer, inner top/left; outer, inner bottom/right
+  std::size_t frameLines;  // the separator's two, or the frame's eight
 };
 void PrintTo(const StyleLook& s, std::ostream* os) { *os << "Style" << s.style; }
 
-class Styles : public ComboHarness, public ::testing::WithParamInterface<StyleLook> {};
+class Styles : public ComboHarness, public ::testing::WithParamInterface<StyleLook> {
+ protected:
+  // Redraws in `style` and gives the lines drawn, the black arrow aside.
+  PenLines Frame(std::int32_t style) {
+    combo->SetStyle(style);
+    surface.ClearCalls();
+    combo->Refresh();
+    auto lines = LinesOf(surface.Calls);
+    std::erase_if(lines, [](const auto& l) { return l.second == 0; });
+    return lines;
+  }
+};
 
 TEST_P(Styles, DrawTheirFrameAndDropButton) {
   const StyleLook& s = GetParam();
-  combo->SetStyle(s.style);
-  surface.ClearCalls();
-  combo->Refresh();
+  const PenLines lines = Frame(s.style);
   const std::int32_t w = kWidth, h = combo->GetHeight();
   const Rect b = combo->DropButtonRect();
   EXPECT_EQ(b, (Rect{w - s.buttonWidth - 2, 2, w - 2, h - 1}));
@@ -58,34 +66,43 @@ TEST_P(Styles, DrawTheirFrameAndDropButton) {
   ASSERT_EQ(edges.size(), (s.edgeRoundTheField ? 1u : 0u) + (button ? 1u : 0u));
   if (s.edgeRoundTheField) EXPECT_EQ(edges.front().Args, (Args{0, 0, w, h, edge::Raised, edge::AllSides}));
   if (button) EXPECT_EQ(edges.back().Args, (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Raised, edge::AllSides}));
-
-  PenLines expected;
-  if (s.separator) {
-    expected = {{{b.Left - 1, 2, b.Left - 1, b.Bottom}, sys::ButtonShadow},
-                {{b.Left, 2, b.Left, b.Bottom}, sys::ButtonHighlight}};
-  } else if (!s.framePens.empty()) {
-    const auto& p = s.framePens;
-    expected = {{{0, 0, w, 0}, p[0]},         {{0, 0, 0, h}, p[0]},         {{1, 1, w - 1, 1}, p[1]},
-                {{1, 1, 1, h - 2}, p[1]},     {{0, h - 1, w - 1, h - 1}, p[2]}, {{w - 1, 0, w - 1, h - 1}, p[2]},
-                {{1, h - 2, w - 1, h - 2}, p[3]}, {{w - 2, 1, w - 2, h - 2}, p[3]}};
+  EXPECT_EQ(lines.size(), s.frameLines);
+  if (s.edgeRoundTheField) {  // an etched separator: shadow left of the button, highlight on its edge
+    EXPECT_EQ(lines, (PenLines{{{b.Left - 1, 2, b.Left - 1, b.Bottom}, sys::ButtonShadow},
+                               {{b.Left, 2, b.Left, b.Bottom}, sys::ButtonHighlight}}));
   }
-  auto lines = LinesOf(surface.Calls);
-  lines.erase(std::remove_if(lines.begin(), lines.end(), [](const auto& l) { return l.second == 0; }), lines.end());
-  EXPECT_EQ(lines, expected);  // the black arrow aside
   // Whatever the frame, the colour bar is drawn and the whole shown.
   EXPECT_EQ(surface.CallsOf("Rectangle").at(button ? 1 : 0).Args, (Args{8, 4, w - s.buttonWidth - 8, h - 4}));
   EXPECT_EQ(surface.Calls.back().Op, "Refresh");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    EachStyle, Styles,
-    ::testing::Values(
-        StyleLook{cscDropDown, 13, true, true, {}},
-        StyleLook{cscCombobox, 13, false, false, {sys::ButtonShadow, kDarkShadow, sys::ButtonHighlight, kLight}},
-        StyleLook{cscButton, 0, false, false, {sys::ButtonHighlight, kLight, sys::ButtonShadow, kDarkShadow}},
-        StyleLook{cscButtonNoText, 0, false, false, {sys::ButtonHighlight, kLight, sys::ButtonShadow, kDarkShadow}},
-        StyleLook{5, 0, false, false, {}}),
-    [](const auto& info) { return "Style" + std::to_string(info.param.style); });
+INSTANTIATE_TEST_SUITE_P(EachStyle, Styles,
+                         ::testing::Values(StyleLook{cscDropDown, 13, true, 2}, StyleLook{cscCombobox, 13, false, 8},
+                                           StyleLook{cscButton, 0, false, 8}, StyleLook{cscButtonNoText, 0, false, 8},
+                                           StyleLook{5, 0, false, 0}),
+                         [](const auto& info) { return "Style" + std::to_string(info.param.style); });
+
+// The sunken field is two rings, dark above and left and light below and right, each
+// inner line stopping short of the outer ring; the raised button is the same frame with
+// light and shade swapped.
+TEST_F(Styles, TheButtonFrameIsTheSunkenFieldLitTheOtherWay) {
+  const std::int32_t w = kWidth, h = combo->GetHeight();
+  const PenLines sunken = Frame(cscCombobox);
+  std::vector<Args> where;
+  for (const auto& line : sunken) where.push_back(line.first);
+  EXPECT_EQ(where, (std::vector<Args>{{0, 0, w, 0}, {0, 0, 0, h}, {1, 1, w - 1, 1}, {1, 1, 1, h - 2},
+                                       {0, h - 1, w - 1, h - 1}, {w - 1, 0, w - 1, h - 1},
+                                       {1, h - 2, w - 1, h - 2}, {w - 2, 1, w - 2, h - 2}}));
+  EXPECT_EQ(std::pair(sunken.front().second, sunken.at(4).second), std::pair(sys::ButtonShadow, sys::ButtonHighlight));
+  PenLines swapped = Frame(cscButton);
+  for (auto& [args, pen] : swapped) {
+    pen = pen == sys::ButtonHighlight ? sys::ButtonShadow
+          : pen == sys::ButtonShadow  ? sys::ButtonHighlight
+          : pen == kLight             ? kDarkShadow
+                                      : kLight;
+  }
+  EXPECT_EQ(swapped, sunken);
+}
 
 // The arrow is centred with halves truncated toward zero: in the 13 x 18 button it
 // starts one pixel left of the button and one below its top.
@@ -100,10 +117,8 @@ TEST_F(ComboHarness, DropButtonIsSunkenWhileOpenAndRaisedAfterWithTheArrowCentre
   });
   EXPECT_EQ(lastEdge(), (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Raised, edge::AllSides}));
   const auto arrow = LinesOf(surface.Calls, 0);
-  const std::int32_t x = b.Left - 1, y = b.Top + 1;
   ASSERT_GE(arrow.size(), 3u);
-  EXPECT_EQ(PenLines(arrow.end() - 3, arrow.end()),
-            (PenLines{{{x, y, x + 5, y}, 0}, {{x + 1, y + 1, x + 4, y + 1}, 0}, {{x + 2, y + 2, x + 3, y + 2}, 0}}));
+  EXPECT_EQ(arrow.end()[-3].first, (Args{b.Left - 1, b.Top + 1, b.Left + 4, b.Top + 1}));
 }
 
 // One line per run of one colour on one row; the pen, its width and position stay.

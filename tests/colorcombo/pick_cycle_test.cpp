@@ -22,87 +22,41 @@ using testing::kBlack, testing::kGreen, testing::kWhite, testing::kGreenColor, t
 const User kPickGreen = [](Dropdown& d) { d.Pick(kGreen); };
 const Lines kNoChange{"BeforeDropDown", "AfterDropUp"};
 
-// --- what each kind of pick raises ------------------------------------------------------
+// --- each way through the drop-down cycle ---------------------------------------------------
 
-struct Pick {
+struct Cycle {
   const char* name;
   bool startAutomatic;
   OLE_COLOR startColor;
-  User user;
+  User user;  // acts on the open drop-down, after white is previewed when `preview`
+  bool preview;
   std::string cancelIn;
   Lines events;
   bool endAutomatic;
   OLE_COLOR endColor;
 };
-void PrintTo(const Pick& p, std::ostream* os) { *os << p.name; }
+void PrintTo(const Cycle& c, std::ostream* os) { *os << c.name; }
 
-class PickEvents : public ComboHarness, public ::testing::WithParamInterface<Pick> {};
+class Cycles : public ComboHarness, public ::testing::WithParamInterface<Cycle> {};
 
 // A cancel in BeforeDropDown shows nothing; one in a later Before event leaves the
-// button drawn pressed, on purpose.
-TEST_P(PickEvents, RaiseTheEventsOfThePickInOrderAndApplyIt) {
-  const Pick& p = GetParam();
-  combo->SetIsAutomatic(p.startAutomatic);
-  combo->SetColor(p.startColor);
-  CancelIn = p.cancelIn;
-  Open(p.user);
-  EXPECT_EQ(Log, p.events);
-  EXPECT_EQ(combo->IsAutomatic(), p.endAutomatic);
-  EXPECT_EQ(text::Hex(combo->Color()), text::Hex(p.endColor));
-  EXPECT_EQ(combo->DropButtonPressed(), p.cancelIn.find("Changed") != std::string::npos);
-  EXPECT_EQ(host.Windows.LoadedForms.empty(), p.cancelIn == "BeforeDropDown");
-  EXPECT_TRUE(host.Messages.Shown.empty());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    EachKindOfPick, PickEvents,
-    ::testing::Values(
-        Pick{"NewColourWhileAutomatic", true, 0x663300, kPickGreen, "",
-             {"BeforeDropDown", "BeforeIsAutomaticChanged False", "AfterIsAutomaticChanged False",
-              "BeforeColorChanged 8200", "AfterColorChanged 8200", "AfterDropUp"},
-             false, kGreenColor},
-        Pick{"AutomaticWhileAColourIsInForce", false, kGreenColor, [](Dropdown& d) { d.Press(d.Automatic()); }, "",
-             {"BeforeDropDown", "BeforeIsAutomaticChanged True", "AfterIsAutomaticChanged True", "AfterDropUp"}, true,
-             kGreenColor},
-        Pick{"TheColourAlreadyInForce", false, kGreenColor, kPickGreen, "", kNoChange, false, kGreenColor},
-        Pick{"OneThatOnlyUndoesAPreview", false, kGreenColor,
-             [](Dropdown& d) {
-               d.Hover(kWhite);
-               d.Pick(kGreen);  // released over green without moving there first
-             },
-             "", {"BeforeDropDown", "BeforeColorChanged 8200", "AfterDropUp"}, false, kGreenColor},
-        Pick{"CancelledBeforeDropDown", true, 0x663300, kPickGreen, "BeforeDropDown", {"BeforeDropDown"}, true,
-             0x663300},
-        Pick{"CancelledBeforeIsAutomaticChanged", true, 0x663300, kPickGreen, "BeforeIsAutomaticChanged",
-             {"BeforeDropDown", "BeforeIsAutomaticChanged False"}, true, 0x663300},
-        Pick{"CancelledBeforeColorChanged", false, 0x663300, kPickGreen, "BeforeColorChanged",
-             {"BeforeDropDown", "BeforeColorChanged 8200"}, false, 0x663300}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-// --- the record each way of closing leaves --------------------------------------------------
-
-struct Closing {
-  const char* name;
-  User user;
-  std::vector<Variant> record;
-  Lines events;
-};
-void PrintTo(const Closing& c, std::ostream* os) { *os << c.name; }
-
-class ClosingWays : public ComboHarness, public ::testing::WithParamInterface<Closing> {};
-
-// Every way starts from green with white previewed under the pointer.
-TEST_P(ClosingWays, LeaveTheirRecordAndPutBackThePreview) {
-  combo->SetIsAutomatic(false);
-  combo->SetColor(kGreenColor);
+// button drawn pressed, on purpose. Every way of closing puts back the preview.
+TEST_P(Cycles, RaiseTheirEventsInOrderAndLeaveTheirColour) {
+  const Cycle& c = GetParam();
+  combo->SetIsAutomatic(c.startAutomatic);
+  combo->SetColor(c.startColor);
+  CancelIn = c.cancelIn;
   host.Chooser.NextChoice = 0xFF;  // for the dialog's Custom button
-  Open([](Dropdown& d) {
-    d.Hover(kWhite);
-    GetParam().user(d);
+  Open([&c](Dropdown& d) {
+    if (c.preview) d.Hover(kWhite);
+    c.user(d);
   });
-  EXPECT_EQ(host.Runtime.PopupResult(), GetParam().record);
-  EXPECT_EQ(Log, GetParam().events);
-  EXPECT_FALSE(LastDropdown()->ModalLeftOpen);
+  EXPECT_EQ(Log, c.events);
+  EXPECT_EQ(combo->IsAutomatic(), c.endAutomatic);
+  EXPECT_EQ(text::Hex(combo->Color()), text::Hex(c.endColor));
+  EXPECT_EQ(combo->DropButtonPressed(), c.cancelIn.find("Changed") != std::string::npos);
+  EXPECT_EQ(host.Windows.LoadedForms.empty(), c.cancelIn == "BeforeDropDown");
+  if (LastDropdown() != nullptr) EXPECT_FALSE(LastDropdown()->ModalLeftOpen);
   EXPECT_EQ(Shared(), nullptr);
   EXPECT_EQ(host.Windows.Capture, 0u);
   EXPECT_TRUE(host.Messages.Shown.empty());
@@ -121,36 +75,56 @@ User MoreColors(std::function<void(TestForm&)> dialogUser) {
   };
 }
 
-const std::vector<Variant> kCancelled{Variant(false)};
+constexpr OLE_COLOR kBrown = 0x663300;
+const Lines kPickedGreen{"BeforeDropDown", "BeforeColorChanged 8200", "AfterColorChanged 8200", "AfterDropUp"};
 
 INSTANTIATE_TEST_SUITE_P(
-    EachWay, ClosingWays,
+    EachWay, Cycles,
     ::testing::Values(
-        Closing{"PickingACell", [](Dropdown& d) { d.Pick(kBlack); },
-                {Variant(true), Variant(0), Variant(false), Variant("Black")},
-                {"BeforeDropDown", "BeforeColorChanged 0", "AfterColorChanged 0", "AfterDropUp"}},
-        Closing{"Escape", [](Dropdown& d) { d.grid.Key(keycode::Escape); }, kCancelled, kNoChange},
-        Closing{"PressOutside", [](Dropdown& d) { d.grid.MouseDown(-5, -5); }, kCancelled, kNoChange},
-        Closing{"F4", [](Dropdown& d) { d.form.PressKey(keycode::F4); }, kCancelled, kNoChange},
-        Closing{"Deactivation", [](Dropdown& d) { d.form.Deactivate(); }, kCancelled, kNoChange},
-        Closing{"ActivationWatch",
-                [](Dropdown& d) {
-                  d.host.Windows.ActiveWindow = d.form.hWnd();
-                  d.host.Timers.FireEnabled();
-                  EXPECT_TRUE(d.form.IsLoaded());
-                  d.host.Windows.ActiveWindow = 0x77;  // another application's window
-                  d.host.Timers.FireEnabled();
-                },
-                kCancelled, kNoChange},
-        Closing{"MoreColorsOk",
-                MoreColors([](TestForm& dialog) {
-                  dialog.ClickControl("cmdCustom");
-                  dialog.ClickControl("cmdButton", 0);
-                }),
-                {Variant(true), Variant(0xFF), Variant(false), Variant(""), Variant()},
-                {"BeforeDropDown", "BeforeColorChanged FF", "AfterColorChanged FF", "AfterDropUp"}},
-        Closing{"MoreColorsCancel", MoreColors([](TestForm& dialog) { dialog.ClickControl("cmdButton", 1); }),
-                {Variant(false), Variant(), Variant(), Variant(), Variant()}, kNoChange}),
+        Cycle{"NewColourWhileAutomatic", true, kBrown, kPickGreen, false, "",
+              {"BeforeDropDown", "BeforeIsAutomaticChanged False", "AfterIsAutomaticChanged False",
+               "BeforeColorChanged 8200", "AfterColorChanged 8200", "AfterDropUp"},
+              false, kGreenColor},
+        Cycle{"NewColourAfterAPreview", false, kBrown, kPickGreen, true, "", kPickedGreen, false, kGreenColor},
+        Cycle{"AutomaticWhileAColourIsInForce", false, kGreenColor, [](Dropdown& d) { d.Press(d.Automatic()); },
+              false, "", {"BeforeDropDown", "BeforeIsAutomaticChanged True", "AfterIsAutomaticChanged True", "AfterDropUp"},
+              true, kGreenColor},
+        Cycle{"TheColourAlreadyInForce", false, kGreenColor, kPickGreen, false, "", kNoChange, false, kGreenColor},
+        // Released over green without moving there first.
+        Cycle{"OneThatOnlyUndoesAPreview", false, kGreenColor, kPickGreen, true, "",
+              {"BeforeDropDown", "BeforeColorChanged 8200", "AfterDropUp"}, false, kGreenColor},
+        Cycle{"CancelledBeforeDropDown", true, kBrown, kPickGreen, false, "BeforeDropDown", {"BeforeDropDown"}, true,
+              kBrown},
+        Cycle{"CancelledBeforeIsAutomaticChanged", true, kBrown, kPickGreen, false, "BeforeIsAutomaticChanged",
+              {"BeforeDropDown", "BeforeIsAutomaticChanged False"}, true, kBrown},
+        Cycle{"CancelledBeforeColorChanged", false, kBrown, kPickGreen, false, "BeforeColorChanged",
+              {"BeforeDropDown", "BeforeColorChanged 8200"}, false, kBrown},
+        Cycle{"Escape", false, kGreenColor, [](Dropdown& d) { d.grid.Key(keycode::Escape); }, true, "", kNoChange,
+              false, kGreenColor},
+        Cycle{"PressOutside", false, kGreenColor, [](Dropdown& d) { d.grid.MouseDown(-5, -5); }, true, "", kNoChange,
+              false, kGreenColor},
+        Cycle{"F4", false, kGreenColor, [](Dropdown& d) { d.form.PressKey(keycode::F4); }, true, "", kNoChange, false,
+              kGreenColor},
+        Cycle{"Deactivation", false, kGreenColor, [](Dropdown& d) { d.form.Deactivate(); }, true, "", kNoChange, false,
+              kGreenColor},
+        Cycle{"ActivationWatch", false, kGreenColor,
+              [](Dropdown& d) {
+                d.host.Windows.ActiveWindow = d.form.hWnd();
+                d.host.Timers.FireEnabled();
+                EXPECT_TRUE(d.form.IsLoaded());
+                d.host.Windows.ActiveWindow = 0x77;  // another application's window
+                d.host.Timers.FireEnabled();
+              },
+              true, "", kNoChange, false, kGreenColor},
+        Cycle{"MoreColorsOk", false, kGreenColor,
+              MoreColors([](TestForm& dialog) {
+                dialog.ClickControl("cmdCustom");
+                dialog.ClickControl("cmdButton", 0);
+              }),
+              true, "", {"BeforeDropDown", "BeforeColorChanged FF", "AfterColorChanged FF", "AfterDropUp"}, false, 0xFF},
+        Cycle{"MoreColorsCancel", false, kGreenColor,
+              MoreColors([](TestForm& dialog) { dialog.ClickControl("cmdButton", 1); }), true, "", kNoChange, false,
+              kGreenColor}),
     [](const auto& info) { return std::string(info.param.name); });
 
 // A cancel on the grid's focus loss writes no record: the previous cycle's is applied

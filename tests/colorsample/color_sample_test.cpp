@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -134,31 +133,6 @@ TEST_F(ColorSampleTest, ADrawingFailureIsReportedUnderRefreshAndTheSetterStillNo
   EXPECT_EQ(site.Changed, (Lines{"Text [Let]"}));
 }
 
-struct Setter {
-  const char* label;
-  std::function<void(ColorSample&)> set;
-};
-void PrintTo(const Setter& s, std::ostream* os) { *os << s.label; }
-
-class ColorSampleSetters : public ColorSampleTest, public ::testing::WithParamInterface<Setter> {};
-
-// That each stores its value, the save and load below shows.
-TEST_P(ColorSampleSetters, SetterNotifiesWithItsOwnLabelAndRedraws) {
-  surface.ClearCalls();
-  GetParam().set(*sample);
-  EXPECT_EQ(site.Changed, Lines{GetParam().label});
-  EXPECT_EQ(surface.CountOf("Refresh"), 1);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    EverySetter, ColorSampleSetters,
-    ::testing::Values(Setter{"BackColor [Let]", [](ColorSample& s) { s.SetBackColor(0xFFFF); }},
-                      Setter{"BorderStyle [Let]", [](ColorSample& s) { s.SetBorderStyle(bcNone); }},
-                      Setter{"Font [Let]", [](ColorSample& s) { s.SetFont(kCourier); }},
-                      Setter{"Text [Let]", [](ColorSample& s) { s.SetText("Abc"); }},
-                      Setter{"ForeColor [Let]", [](ColorSample& s) { s.SetForeColor(0x800000); }}),
-    [](const auto& info) { return std::string(info.param.label).substr(0, std::string(info.param.label).find(' ')); });
-
 TEST_F(ColorSampleTest, NoFontGivesTheAmbientFont) {
   EXPECT_EQ(sample->Font(), kTahoma);
   sample->SetFont(kCourier);
@@ -168,38 +142,37 @@ TEST_F(ColorSampleTest, NoFontGivesTheAmbientFont) {
   EXPECT_EQ(surface.Font(), site.Font);
 }
 
-TEST_F(ColorSampleTest, PropertiesSurviveSaveAndLoadWithAnyBorderStyleKept) {
-  MemoryPropertyBag untouched;
+// Each setter notifies under its own label and redraws; every value survives save and
+// load, any border style among them, and an untouched control writes nothing.
+TEST_F(ColorSampleTest, SettersNotifyAndRedrawAndTheirValuesSurviveSaveAndLoad) {
+  MemoryPropertyBag untouched, bag;
   sample->UserControl_WriteProperties(untouched);
-  EXPECT_TRUE(untouched.Values.empty());  // every value its default, the font the ambient one
-  const Lines keys{"BackColor", "ForeColor", "Text", "BorderStyle", "Font"};
-  EXPECT_EQ(untouched.WriteOrder, keys);
-
+  EXPECT_TRUE(untouched.Values.empty());
+  EXPECT_EQ(untouched.WriteOrder, (Lines{"BackColor", "ForeColor", "Text", "BorderStyle", "Font"}));
+  surface.ClearCalls();
   sample->SetBackColor(0xFFFF);
   sample->SetForeColor(0x800000);
   sample->SetText("Abc");
   sample->SetBorderStyle(2);
   sample->SetFont(kCourier);
-  MemoryPropertyBag bag;
+  EXPECT_EQ(site.Changed, (Lines{"BackColor [Let]", "ForeColor [Let]", "Text [Let]", "BorderStyle [Let]", "Font [Let]"}));
+  EXPECT_EQ(surface.CountOf("Refresh"), 5);
   sample->UserControl_WriteProperties(bag);
   RecordingSurface otherSurface;
   RecordingSite otherSite;
   ColorSample loaded(host.Runtime, otherSurface, otherSite);
   loaded.UserControl_ReadProperties(bag);
   EXPECT_EQ(Values(loaded), Values(*sample));
-  EXPECT_EQ(bag.ReadOrder, keys);
-
+  EXPECT_EQ(bag.ReadOrder, untouched.WriteOrder);
   otherSite.Font = kTahoma;
   loaded.UserControl_ReadProperties(untouched);
   EXPECT_EQ(Values(loaded), (Lines{"FFFFFF", "0", "Sample Text", "1", "Tahoma 9.000000"}));
 }
 
-TEST_F(ColorSampleTest, AboutBoxOpensTheLibraryAboutBoxOverTheControlsWindow) {
+// The About box opens over the control's window; the site reaches the sample while it lives.
+TEST_F(ColorSampleTest, AboutBoxOverTheControlsWindowAndTheSiteWhileItLives) {
   sample->AboutBox();
   EXPECT_EQ(host.Windows.AboutBoxOwners, std::vector<WindowHandle>{0x5A});
-}
-
-TEST_F(ColorSampleTest, TheSiteReachesTheSampleWhileItLives) {
   EXPECT_EQ(site.Control(), &*sample);
   sample.reset();
   EXPECT_EQ(site.Control(), nullptr);

@@ -35,52 +35,47 @@ class RecordingControl : public lumo::ControlEvents {
 };
 
 // One control in its window: the control's box with its drawing surface inside, and a
-// text field beside it that holds the focus when the control does not.
+// text field beside it that holds the focus when the control does not. An application
+// places it on its own window (`form` null), or it is hosted on one of the library's
+// forms and reached by name as the core does.
 struct Placement {
-  void Prepare() {
+  explicit Placement(bool onLibraryForm) {
+    if (onLibraryForm) {
+      form = FormDesigns().load("frmHosting", formEvents);
+      window = form.get();
+      control = &form->children().addHostedControl(QStringLiteral("Hosted"));
+      inner = form->children().findSurface(QStringLiteral("Hosted"));
+      outside = form->children().addTextBox(QStringLiteral("txtOutside")).lineEdit();
+      site = &form->children().site(QStringLiteral("Hosted"));
+    } else {
+      window = new QWidget;
+      control = new QWidget(window);
+      inner = new SurfaceWidget(control);
+      outside = new QLineEdit(window);
+      ownSite = std::make_unique<QtControlSite>(control);
+      site = ownSite.get();
+    }
     for (QWidget* focusable : {control, inner}) focusable->setFocusPolicy(Qt::StrongFocus);
     control->setMinimumSize(40, 30);
     outside->move(0, 60);
     site->Attach(&events);
   }
+  ~Placement() {
+    ownSite.reset();
+    if (!form) delete window;
+  }
   QWidget* Named(const QString& name) const {
     return name == "control" ? control : name == "inner" ? inner : name == "outside" ? outside : nullptr;
   }
+  RecordingControl events;  // first in, last out: the site reports to it until it goes
+  RecordingFormEvents formEvents;
+  std::unique_ptr<QtFormWindow> form;
   QWidget* window = nullptr;
   QWidget* control = nullptr;
   QWidget* inner = nullptr;
   QWidget* outside = nullptr;
-  QtControlSite* site = nullptr;
-  RecordingControl events;
-};
-
-// A control an application places on its own window.
-struct AppPlacement : Placement {
-  AppPlacement() {
-    window = &form;
-    control = new QWidget(&form);
-    inner = new SurfaceWidget(control);
-    outside = new QLineEdit(&form);
-    ownSite = std::make_unique<QtControlSite>(control);
-    site = ownSite.get();
-    Prepare();
-  }
-  QWidget form;
   std::unique_ptr<QtControlSite> ownSite;
-};
-
-// A control hosted on one of the library's forms, reached by name as the core does.
-struct FormPlacement : Placement {
-  FormPlacement() {
-    window = form.get();
-    control = &form->children().addHostedControl(QStringLiteral("Hosted"));
-    inner = form->children().findSurface(QStringLiteral("Hosted"));
-    outside = form->children().addTextBox(QStringLiteral("txtOutside")).lineEdit();
-    site = &form->children().site(QStringLiteral("Hosted"));
-    Prepare();
-  }
-  RecordingFormEvents formEvents;
-  std::unique_ptr<QtFormWindow> form = FormDesigns().load("frmHosting", formEvents);
+  QtControlSite* site = nullptr;
 };
 
 }  // namespace
@@ -111,10 +106,8 @@ class ControlSiteEventsTest : public QObject {
     QFETCH(QString, focused);
     QFETCH(QString, action);
     QFETCH(QStringList, expected);
-    AppPlacement placed;
-    FormPlacement hosted;
-
-    for (Placement* p : {static_cast<Placement*>(&placed), static_cast<Placement*>(&hosted)}) {
+    for (const bool onLibraryForm : {false, true}) {
+      const auto p = std::make_unique<Placement>(onLibraryForm);
       p->site->setUserMode(action != "show in designer");
       p->site->SetAccessKeys("k");
       if (!focused.isEmpty()) {
