@@ -13,16 +13,16 @@
 
 #include "EventLog.h"
 #include "colormodel/Types.h"
-#include "qt/ColorBox.h"
+#include "qt/ColorCombo.h"
 #include "qt/ColorSample.h"
 
-using LumoColorCombo::ColorBox;
+using LumoColorCombo::ColorCombo;
 using LumoColorCombo::ColorSample;
 using LumoColorCombo::OLE_COLOR;
 
 namespace {
 
-// "Automatic" in the two grids: the theme's text and window colours.
+// "Automatic" in the two combos: the theme's text and window colours.
 constexpr OLE_COLOR kWindowText = lumo::SystemColor(8);
 constexpr OLE_COLOR kWindow = lumo::SystemColor(5);
 
@@ -36,7 +36,7 @@ SamplePage::SamplePage(EventLog* log, QWidget* parent)
           [this](const QString& name) { log_->add(sample_->objectName(), QStringLiteral("PropertyChanged(\"%1\")").arg(name)); });
 
   auto* hint = new QLabel(tr("A sample box previews a colour pair: pick the text colour and the background in "
-                             "the grids and the sample follows. Any BorderStyle other than bcFixedSingle draws "
+                             "the two combos and the sample follows. Any BorderStyle other than bcFixedSingle draws "
                              "no frame and is kept as it is."),
                           this);
   hint->setWordWrap(true);
@@ -63,15 +63,18 @@ QWidget* SamplePage::buildPickers() {
 QWidget* SamplePage::addPicker(const QString& name, OLE_COLOR automatic, OLE_COLOR initial,
                                void (ColorSample::*apply)(OLE_COLOR)) {
   auto* frame = new QGroupBox(name, this);
-  auto* box = new ColorBox(frame);
-  box->setObjectName(name);
-  box->setAllowMoreColors(false);
-  box->setAutoColor(automatic);
-  box->setIsAutomatic(false);
-  box->setColor(initial);
-  (new QVBoxLayout(frame))->addWidget(box, 0, Qt::AlignCenter);
-  connect(box, &ColorBox::Click, this, [this, box, apply](OLE_COLOR& color, const QString&, bool& isAutomatic) {
-    (sample_->*apply)(isAutomatic ? box->AutoColor() : color);
+  auto* combo = new ColorCombo(frame);
+  combo->setObjectName(name);
+  combo->setMinimumWidth(150);
+  combo->setAllowMoreColors(true);
+  combo->setAutoColor(automatic);
+  combo->setIsAutomatic(false);
+  combo->setColor(initial);
+  (new QVBoxLayout(frame))->addWidget(combo, 0, Qt::AlignTop);
+  // Every way a drop-down ends (a pick, the dialog, a cancel) ends with AfterDropUp; the
+  // combo then holds what the sample should show.
+  connect(combo, &ColorCombo::AfterDropUp, this, [this, combo, apply] {
+    (sample_->*apply)(combo->IsAutomatic() ? combo->AutoColor() : combo->Color());
   });
   return frame;
 }
