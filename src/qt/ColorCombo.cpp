@@ -171,7 +171,7 @@ OLE_COLOR ColorCombo::ForeColor() const { return d->core->ForeColor(); }
 void ColorCombo::setForeColor(OLE_COLOR color) { d->core->SetForeColor(color); }
 OLE_COLOR ColorCombo::BackColor() const { return d->core->BackColor(); }
 void ColorCombo::setBackColor(OLE_COLOR color) { d->core->SetBackColor(color); }
-QFont ColorCombo::Font() const { return host::SurfaceWidget::qtFont(d->core->Font()); }
+QFont ColorCombo::Font() const { return host::SurfaceWidget::propertyFont(d->core->Font()); }
 void ColorCombo::setComboFont(const QFont& font) { d->core->SetFont(host::QtControlSite::toStdFont(font)); }
 bool ColorCombo::AllowAutomatic() const { return d->core->AllowAutomatic(); }
 void ColorCombo::setAllowAutomatic(bool allow) { d->core->SetAllowAutomatic(allow); }

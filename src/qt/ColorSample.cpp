@@ -59,10 +59,7 @@ KDBorderConstants ColorSample::BorderStyle() const { return static_cast<KDBorder
 void ColorSample::setBorderStyle(KDBorderConstants style) { d->core->SetBorderStyle(style); }
 
 QFont ColorSample::Font() const {
-  const lumo::StdFont font = d->core->Font().value_or(d->site.AmbientFont());
-  QFont result = host::SurfaceWidget::qtFont(font);
-  result.setPointSizeF(font.Size);  // so that reading and writing it back changes nothing
-  return result;
+  return host::SurfaceWidget::propertyFont(d->core->Font().value_or(d->site.AmbientFont()));
 }
 
 void ColorSample::setSampleFont(const QFont& font) { d->core->SetFont(host::QtControlSite::toStdFont(font)); }

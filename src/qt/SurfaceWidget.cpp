@@ -106,6 +106,12 @@ QFont SurfaceWidget::qtFont(const lumo::StdFont& font) {
   return result;
 }
 
+QFont SurfaceWidget::propertyFont(const lumo::StdFont& font) {
+  QFont result = qtFont(font);
+  result.setPointSizeF(font.Size);
+  return result;
+}
+
 QColor SurfaceWidget::resolve(lumo::OLE_COLOR color) const { return SystemColors::resolve(color, palette()); }
 
 QRgb SurfaceWidget::rgb(lumo::OLE_COLOR color) const { return resolve(color).rgb(); }

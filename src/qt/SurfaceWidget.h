@@ -40,6 +40,9 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   // The QFont a font description stands for: the size in points at the platform's
   // 96 dots per inch, as whole pixels; an absent family is left to Qt's substitution.
   static QFont qtFont(const lumo::StdFont& font);
+  // The font a `Font` property answers: the same face, sized in points as described, so
+  // that reading the property and writing it back changes nothing.
+  static QFont propertyFont(const lumo::StdFont& font);
   // A colour value as this surface draws it now.
   QColor resolve(lumo::OLE_COLOR color) const;
 
