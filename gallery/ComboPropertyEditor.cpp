@@ -102,15 +102,15 @@ QWidget* ComboPropertyEditor::fontEditor(const QMetaProperty& property) {
   auto* holder = new QWidget(this);
   auto* family = new QFontComboBox(holder);
   auto* size = new QSpinBox(holder);
-  size->setRange(6, 48);
-  size->setSuffix(tr(" px"));
+  size->setRange(4, 48);
+  size->setSuffix(tr(" pt"));
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(family, 1);
   row->addWidget(size);
   const auto apply = [this, family, size, property] {
     QFont font = family->currentFont();
-    font.setPixelSize(size->value());
+    font.setPointSize(size->value());
     write(property, font);
   };
   connect(family, &QFontComboBox::currentFontChanged, this, apply);
@@ -118,7 +118,7 @@ QWidget* ComboPropertyEditor::fontEditor(const QMetaProperty& property) {
   loaders_.emplace_back([this, family, size, property] {
     const QFont font = property.read(target_).value<QFont>();
     family->setCurrentFont(font);
-    size->setValue(font.pixelSize());
+    size->setValue(qRound(font.pointSizeF()));
   });
   return holder;
 }

@@ -295,7 +295,7 @@ class ColorComboWidgetTest : public QObject {
     QCOMPARE(form.combo->size(), QSize(250, height));
     QCOMPARE(form.combo->surface()->width(), 250);
     QFont larger = form.combo->Font();
-    larger.setPixelSize(larger.pixelSize() * 2);
+    larger.setPointSizeF(larger.pointSizeF() * 2);
     form.combo->setComboFont(larger);
     QVERIFY(form.combo->height() > height);
 
