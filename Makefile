@@ -2,9 +2,13 @@
 #   make test   installs what is missing, builds everything and runs every test (the
 #               real-desktop suite, label x11, on a private Xvfb: scripts/run-on-xvfb.sh)
 #   make run    builds and starts the gallery (screenshots when there is no display)
+#   make fuzz   builds the libFuzzer targets (fuzz/, clang) in build-fuzz and runs each
+#               FUZZ_SECONDS (300); make fuzz-short runs each 20 seconds, as CI does
 BUILD ?= build
 BUILD_TYPE ?= RelWithDebInfo
 SCREENSHOTS ?= screenshots
+FUZZ_BUILD ?= build-fuzz
+FUZZ_SECONDS ?= 300
 
 .PHONY: deps configure build test run bench clean
 
@@ -23,6 +27,18 @@ test: build
 	bash scripts/check-deps.sh $(BUILD)
 	bash scripts/run-on-xvfb.sh true || [ $$? -eq 77 ]
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j 2
+
+# The fuzz targets are a project of their own (fuzz/CMakeLists.txt), built with clang.
+.PHONY: fuzz-build fuzz fuzz-short
+fuzz-build: deps
+	cmake -S fuzz -B $(FUZZ_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) -DCMAKE_CXX_COMPILER=clang++
+	cmake --build $(FUZZ_BUILD) -j 2
+
+fuzz: fuzz-build
+	bash fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS)
+
+fuzz-short: fuzz-build
+	bash fuzz/run.sh $(FUZZ_BUILD) 20
 
 run: build
 	bash scripts/run-gallery.sh $(BUILD) $(SCREENSHOTS)
