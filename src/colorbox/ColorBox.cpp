@@ -164,8 +164,8 @@ void ColorBox::UserControl_ReadProperties(const PropertyBag& bag) {
   Trap("UserControl_ReadProperties", [&] {
     m_FocusZone = focuszone::Automatic;
     m_NoStyle = -1;
-    // The typed reads fall back to the default for a garbled value, so a damaged
-    // form file still loads.
+    // A missing key gives its default; a value that does not convert fails the read
+    // here, which reports it, and the keys after it keep what they had.
     m_AllowAutomatic = bag.ReadBoolean("AllowAutomatic", kDefaultAllowAutomatic);
     m_AllowMoreColors = bag.ReadBoolean("AllowMoreColors", kDefaultAllowMoreColors);
     m_Color = bag.ReadLong("Color", kDefaultColor);

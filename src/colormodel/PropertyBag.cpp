@@ -1,17 +1,13 @@
 #include "colormodel/PropertyBag.h"
 
-#include <exception>
-
 namespace lumo {
 namespace {
 
+// The conversion's error is not caught here: a stored value that does not convert is
+// damage, which the reading control's UserControl_ReadProperties reports.
 template <class T, class Convert>
 T ReadOr(const PropertyBag& bag, const std::string& key, const T& defaultValue, Convert convert) {
-  try {
-    return convert(bag.ReadProperty(key, Variant(defaultValue)));
-  } catch (const std::exception&) {
-    return defaultValue;
-  }
+  return convert(bag.ReadProperty(key, Variant(defaultValue)));
 }
 
 }  // namespace

@@ -19,8 +19,9 @@ class PropertyBag {
   virtual void WriteProperty(const std::string& key, const Variant& value,
                              const Variant& defaultValue) = 0;
 
-  // Typed reads for the controls: a value that is absent or does not convert to
-  // the wanted kind gives the default, so a damaged form file still loads.
+  // Typed reads for the controls: an absent value gives the default; a value that
+  // does not convert to the wanted kind raises the conversion's error (a type
+  // mismatch or an overflow), so the reading control reports the damaged form file.
   bool ReadBoolean(const std::string& key, bool defaultValue) const;
   std::int32_t ReadLong(const std::string& key, std::int32_t defaultValue) const;
   std::string ReadText(const std::string& key, const std::string& defaultValue) const;

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "colormodel/TextRules.h"
+
 namespace lumo {
 
 RuntimeError::RuntimeError(std::int32_t number) : RuntimeError(number, DescriptionOf(number)) {}
@@ -19,7 +21,7 @@ std::string RuntimeError::DescriptionOf(std::int32_t number) {
     case err::TypeMismatch: return "Type mismatch";
     case err::ObjectNotSet: return "Object not set";
     case err::Internal: return "Internal error";
-    default: return "Application-defined error " + std::to_string(number);
+    default: return "Application-defined error " + text::Decimal(number);
   }
 }
 

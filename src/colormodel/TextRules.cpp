@@ -1,9 +1,9 @@
 #include "colormodel/TextRules.h"
 
 #include <cctype>
-#include <cmath>
-#include <cstdlib>
+#include <charconv>
 #include <limits>
+#include <system_error>
 
 #include "colormodel/CheckedMath.h"
 #include "colormodel/RuntimeError.h"
@@ -52,6 +52,16 @@ std::int32_t HexLiteral(std::string_view digits) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
 }
 
+// A decimal text too far from zero for a double: an overflow when its whole part has a
+// significant digit, otherwise a fraction too small to tell from zero.
+std::int32_t OutOfRangeResult(std::string_view digits) {
+  for (const char c : digits) {
+    if (c == '.') break;
+    if (c >= '1' && c <= '9') throw RuntimeError(err::Overflow);
+  }
+  return 0;
+}
+
 std::int32_t DecimalLiteral(std::string_view digits) {
   // Sign, digits, optional fraction; nothing else (no exponent, no thousands marks).
   std::size_t i = 0;
@@ -69,8 +79,14 @@ std::int32_t DecimalLiteral(std::string_view digits) {
     }
   }
   if (!sawDigit) throw RuntimeError(err::TypeMismatch);
-  const std::string copy(digits);
-  return checked::Round(std::strtod(copy.c_str(), nullptr));
+  // from_chars, not strtod: the point is always "." whatever C locale the host's
+  // application object set, so a saved form loads the same everywhere.
+  if (digits.front() == '+') digits.remove_prefix(1);
+  double value = 0.0;
+  const auto [end, ec] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (ec == std::errc::result_out_of_range) return OutOfRangeResult(digits);
+  if (ec != std::errc() || end != digits.data() + digits.size()) throw RuntimeError(err::TypeMismatch);
+  return checked::Round(value);
 }
 
 }  // namespace
@@ -87,7 +103,12 @@ std::string Hex(std::int32_t value) {
   return out;
 }
 
-std::string Decimal(std::int32_t value) { return std::to_string(value); }
+std::string Decimal(std::int32_t value) {
+  // to_chars: digits and "-" only, never the C locale's grouping or digits.
+  char buffer[std::numeric_limits<std::int32_t>::digits10 + 3];
+  const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  return std::string(buffer, result.ptr);
+}
 
 std::int32_t ToLong(std::string_view input) {
   const std::string_view trimmed = TrimBlanks(input);

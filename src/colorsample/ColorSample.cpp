@@ -154,8 +154,8 @@ void ColorSample::UserControl_InitProperties() {
 
 void ColorSample::UserControl_ReadProperties(const PropertyBag& bag) {
   Trap("UserControl_ReadProperties", [&] {
-    // The typed reads fall back to the default for a garbled value, so a damaged form
-    // file still loads.
+    // A missing key gives its default; a value that does not convert fails the read
+    // here, which reports it, and the keys after it keep what they had.
     m_BackColor = bag.ReadLong("BackColor", kDefaultBackColor);
     m_ForeColor = bag.ReadLong("ForeColor", kDefaultForeColor);
     m_Text = bag.ReadText("Text", kDefaultText);

@@ -91,8 +91,7 @@ TEST_F(ComboHarness, LoadingTakesStoredValuesAsTheyAreAndDefaultsForTheRest) {
   MemoryPropertyBag bag;
   bag.Values = {{"PickStyle", Variant(99)},
                 {"AllowAutomatic", Variant(false)},
-                {"IsAutomatic", Variant(true)},
-                {"Color", Variant("not a number")}};
+                {"IsAutomatic", Variant(true)}};
   site.Font = StdFont{"Tahoma", 9};
   combo->UserControl_ReadProperties(bag);
   EXPECT_EQ(std::tuple(combo->PickStyle(), combo->IsAutomatic(), combo->AllowAutomatic(), combo->Color()),

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "colormodel/RuntimeError.h"
+#include "colormodel/TextRules.h"
 #include "support/MemoryPropertyBag.h"
 
 namespace lumo {
@@ -7,46 +9,60 @@ namespace {
 
 using testing::MemoryPropertyBag;
 
+// What a typed read answers: its value as text, "default" or "error <number>".
+template <class Read>
+std::string Outcome(Read read) {
+  try {
+    return Variant(read()).ToText();
+  } catch (const RuntimeError& e) {
+    return "error " + text::Decimal(e.Number());
+  }
+}
+
 struct StoredCase {
   const char* name;
   Variant stored;  // empty: the key is missing
   // What each typed read answers, given the defaults 7, "dflt" and a font "Fallback";
-  // for a boolean 1 true, 0 false, -1 the default (tried both ways).
-  int boolean;
-  std::int32_t number;
+  // a boolean "default" is tried both ways, a font answers "Fallback" or "stored".
+  const char* boolean;
+  const char* number;
   const char* text;
-  bool fontIsDefault;
+  const char* font;
 };
 
 class TypedRead : public ::testing::TestWithParam<StoredCase> {};
 
-// A value that does not convert gives the default, so a damaged form file still loads.
-TEST_P(TypedRead, ConvertsCompatibleKindsAndFallsBackToTheDefault) {
+// A missing key gives the default; a value that does not convert raises the conversion's
+// error for the reading control to report.
+TEST_P(TypedRead, ConvertsCompatibleKindsAndFailsOnTheRest) {
   MemoryPropertyBag bag;
   if (!GetParam().stored.IsEmpty()) bag.Values["Key"] = GetParam().stored;
   StdFont fallback;
   fallback.Name = "Fallback";
   for (const bool byDefault : {false, true}) {
-    EXPECT_EQ(bag.ReadBoolean("Key", byDefault), GetParam().boolean < 0 ? byDefault : GetParam().boolean == 1);
+    const std::string expected = GetParam().boolean;
+    EXPECT_EQ(Outcome([&] { return bag.ReadBoolean("Key", byDefault); }),
+              expected == "default" ? Variant(byDefault).ToText() : expected);
   }
-  EXPECT_EQ(bag.ReadLong("Key", 7), GetParam().number);
-  EXPECT_EQ(bag.ReadText("Key", "dflt"), GetParam().text);
-  EXPECT_EQ(bag.ReadFont("Key", fallback) == fallback, GetParam().fontIsDefault);
+  EXPECT_EQ(Outcome([&] { return bag.ReadLong("Key", 7); }), GetParam().number);
+  EXPECT_EQ(Outcome([&] { return bag.ReadText("Key", "dflt"); }), GetParam().text);
+  EXPECT_EQ(Outcome([&] { return bag.ReadFont("Key", fallback) == fallback ? "Fallback" : "stored"; }),
+            GetParam().font);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, TypedRead,
-    ::testing::Values(StoredCase{"Missing", Variant(), -1, 7, "dflt", true},
-                      StoredCase{"TextTrue", Variant("true"), 1, 7, "true", true},
-                      StoredCase{"TextFalse", Variant("FALSE"), 0, 7, "FALSE", true},
-                      StoredCase{"TextGarbage", Variant("not a boolean"), -1, 7, "not a boolean", true},
-                      StoredCase{"HexText", Variant("&hFF"), 1, 255, "&hFF", true},
-                      StoredCase{"BadHexText", Variant("&hZZ"), -1, 7, "&hZZ", true},
-                      StoredCase{"TooBig", Variant("99999999999"), -1, 7, "99999999999", true},
-                      StoredCase{"Zero", Variant(std::int32_t{0}), 0, 0, "0", true},
-                      StoredCase{"MinusOne", Variant(std::int32_t{-1}), 1, -1, "-1", true},
-                      StoredCase{"False", Variant(false), 0, 0, "False", true},
-                      StoredCase{"Font", Variant(StdFont{}), -1, 7, "MS Sans Serif", false}),
+    ::testing::Values(StoredCase{"Missing", Variant(), "default", "7", "dflt", "Fallback"},
+                      StoredCase{"TextTrue", Variant("true"), "True", "error 13", "true", "error 13"},
+                      StoredCase{"TextFalse", Variant("FALSE"), "False", "error 13", "FALSE", "error 13"},
+                      StoredCase{"TextGarbage", Variant("garbage"), "error 13", "error 13", "garbage", "error 13"},
+                      StoredCase{"HexText", Variant("&hFF"), "True", "255", "&hFF", "error 13"},
+                      StoredCase{"BadHexText", Variant("&hZZ"), "error 13", "error 13", "&hZZ", "error 13"},
+                      StoredCase{"TooBig", Variant("99999999999"), "error 6", "error 6", "99999999999", "error 13"},
+                      StoredCase{"Zero", Variant(std::int32_t{0}), "False", "0", "0", "error 13"},
+                      StoredCase{"MinusOne", Variant(std::int32_t{-1}), "True", "-1", "-1", "error 13"},
+                      StoredCase{"False", Variant(false), "False", "0", "False", "error 13"},
+                      StoredCase{"Font", Variant(StdFont{}), "error 13", "error 13", "MS Sans Serif", "stored"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(PropertyBag, ValuesEqualToTheirDefaultAreNotStored) {

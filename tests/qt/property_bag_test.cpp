@@ -56,7 +56,7 @@ class PropertyBagTest : public QObject {
     QTest::newRow("not an object") << QStringLiteral("[1, 2, 3]");
     QTest::newRow("empty") << QString();
     QTest::newRow("wrong kinds") << QStringLiteral(
-        R"({"Style": [1], "Enabled": {"a": 1}, "Caption": {"x": true}, "Font": 12, "Color": 1.5})");
+        R"({"Style": [1], "Enabled": {"a": 1}, "Caption": {"x": true}, "Font": [12], "Color": 1.5})");
     QTest::newRow("damaged font") << QStringLiteral(R"({"Font": {"Name": "Arial", "Size": "big", "Bold": "yes"}})");
   }
   void damagedTextGivesDefaults() {
