@@ -42,12 +42,12 @@ constexpr std::int32_t kGridTop = 5;
 
 template <class Body>
 void ColorBox::Trap(std::string_view label, Body&& body) const {
-  runtime_.Errors().Trap(kModule, label, std::forward<Body>(body));
+  runtime_.Errors().Trap(kModule, label, m_Alive, std::forward<Body>(body));
 }
 
 template <class Body>
 void ColorBox::TrapAndNotify(std::string_view label, Body&& body) {
-  runtime_.Errors().TrapAndNotify(kModule, label, site_, std::forward<Body>(body));
+  runtime_.Errors().TrapAndNotify(kModule, label, site_, m_Alive, std::forward<Body>(body));
 }
 
 template <class Raise>

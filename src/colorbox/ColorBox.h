@@ -162,6 +162,9 @@ class ColorBox : public SurfaceEvents, public ControlEvents {
   Runtime& runtime_;
   DrawingSurface& picScreen;  // the drawing surface keeps its platform name
   ControlSite& site_;
+  // Expires with the control: a procedure whose host deletes the control midway
+  // reports and notifies nothing.
+  std::shared_ptr<bool> m_Alive = std::make_shared<bool>(true);
   ColorBoxEvents& events_;
   ColorBoxPainter painter_;
   std::unique_ptr<HostTimer> m_Timer1;

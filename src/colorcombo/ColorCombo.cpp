@@ -32,12 +32,12 @@ std::int32_t Twips(std::int32_t pixels) { return checked::Mul(pixels, TwipsPerPi
 
 template <class Body>
 void ColorCombo::Trap(std::string_view label, Body&& body) const {
-  runtime_.Errors().Trap(kModule, label, std::forward<Body>(body));
+  runtime_.Errors().Trap(kModule, label, m_Alive, std::forward<Body>(body));
 }
 
 template <class Body>
 void ColorCombo::TrapAndNotify(std::string_view label, Body&& body) {
-  runtime_.Errors().TrapAndNotify(kModule, label, site_, std::forward<Body>(body));
+  runtime_.Errors().TrapAndNotify(kModule, label, site_, m_Alive, std::forward<Body>(body));
 }
 
 void ColorCombo::RelayListener::OverColor(OLE_COLOR lColor, bool bOverAutomatic) {

@@ -36,6 +36,11 @@ OLE_COLOR Inverse(OLE_COLOR color) { return ~color & 0xFFFFFF; }
 
 }  // namespace
 
+template <class Body>
+void ColorHexagon::Trap(std::string_view procedure, Body&& body) const {
+  errors_.Trap(kModule, procedure, alive_, std::forward<Body>(body));
+}
+
 ColorHexagon::ColorHexagon(Runtime& runtime, DrawingSurface& picScreen, Label& lblOverColor,
                            ControlSite& site, ColorHexagonEvents& events)
     : runtime_(runtime),
@@ -64,7 +69,7 @@ ColorHexagon::~ColorHexagon() {
 // --- properties ----------------------------------------------------------------------------
 
 void ColorHexagon::SetIsAutomatic(bool value) {
-  errors_.Trap(kModule, "IsAutomatic", [&] {
+  Trap("IsAutomatic", [&] {
     if (value == isAutomatic_) return;
     isAutomatic_ = value;
     if (value) {
@@ -78,7 +83,7 @@ void ColorHexagon::SetIsAutomatic(bool value) {
 }
 
 void ColorHexagon::SetColor(OLE_COLOR value) {
-  errors_.Trap(kModule, "Color", [&] {
+  Trap("Color", [&] {
     color_ = value;
     if (isAutomatic_) return;
     CellPtr cell = LiveCells().FindClosest(value);
@@ -99,7 +104,7 @@ void ColorHexagon::SetColor(OLE_COLOR value) {
 // --- methods -------------------------------------------------------------------------------
 
 void ColorHexagon::Refresh() {
-  errors_.Trap(kModule, "Refresh", [&] {
+  Trap("Refresh", [&] {
     picScreen_.Cls();
     picScreen_.SetBackColor(backColor_);
     for (const CellPtr& cell : LiveCells()) DrawShape(cell, false);
@@ -114,13 +119,13 @@ void ColorHexagon::Refresh() {
 
 CellPtr ColorHexagon::FindClosest(OLE_COLOR color) const {
   CellPtr result;
-  errors_.Trap(kModule, "FindClosest", [&] { result = LiveCells().FindClosest(color); });
+  Trap("FindClosest", [&] { result = LiveCells().FindClosest(color); });
   return result;
 }
 
 std::int32_t ColorHexagon::GetNextIndex(std::int32_t index, std::int32_t direction) const {
   std::int32_t result = 0;
-  errors_.Trap(kModule, "GetNextIndex",
+  Trap("GetNextIndex",
                [&] { result = HexagonNavigation::Next(index, direction, LiveCells().Count()); });
   return result;
 }
@@ -128,7 +133,7 @@ std::int32_t ColorHexagon::GetNextIndex(std::int32_t index, std::int32_t directi
 // --- life cycle ------------------------------------------------------------------------------
 
 void ColorHexagon::UserControl_Initialize() {
-  errors_.Trap(kModule, "UserControl_Initialize", [&] {
+  Trap("UserControl_Initialize", [&] {
     PrepareCells();
     ApplyDefaults();
     Refresh();
@@ -139,7 +144,7 @@ void ColorHexagon::UserControl_Initialize() {
 // loaded a second time and a live control holds every cell twice (136 to 270 repeat
 // 1 to 135). Hit tests find the first copy; the keys can walk into the second.
 void ColorHexagon::UserControl_InitProperties() {
-  errors_.Trap(kModule, "UserControl_InitProperties", [&] {
+  Trap("UserControl_InitProperties", [&] {
     PrepareCells();
     ApplyDefaults();
     Refresh();
@@ -147,7 +152,7 @@ void ColorHexagon::UserControl_InitProperties() {
 }
 
 void ColorHexagon::UserControl_ReadProperties(const PropertyBag& bag) {
-  errors_.Trap(kModule, "UserControl_ReadProperties", [&] {
+  Trap("UserControl_ReadProperties", [&] {
     PrepareCells();
     isAutomatic_ = bag.ReadBoolean("IsAutomatic", true);
     automaticText_ = bag.ReadText("AutomaticText", DefaultAutomaticText);
@@ -159,7 +164,7 @@ void ColorHexagon::UserControl_ReadProperties(const PropertyBag& bag) {
 }
 
 void ColorHexagon::UserControl_WriteProperties(PropertyBag& bag) const {
-  errors_.Trap(kModule, "UserControl_WriteProperties", [&] {
+  Trap("UserControl_WriteProperties", [&] {
     bag.WriteProperty("IsAutomatic", Variant(isAutomatic_), Variant(true));
     bag.WriteProperty("AutomaticText", Variant(automaticText_), Variant(DefaultAutomaticText));
     bag.WriteProperty("AutoColor", Variant(autoColor_), Variant(sys::ButtonShadow));
@@ -191,7 +196,7 @@ void ColorHexagon::UserControl_Terminate() {
 // --- input -------------------------------------------------------------------------------------
 
 void ColorHexagon::picScreen_MouseDown(std::int16_t, std::int16_t, double x, double y) {
-  errors_.Trap(kModule, "picScreen_MouseDown", [&] {
+  Trap("picScreen_MouseDown", [&] {
     downX_ = checked::Round(x);
     downY_ = checked::Round(y);
   });
@@ -200,7 +205,7 @@ void ColorHexagon::picScreen_MouseDown(std::int16_t, std::int16_t, double x, dou
 // A click needs the press and the release on the same cell; releasing elsewhere is
 // the user's way to cancel.
 void ColorHexagon::picScreen_MouseUp(std::int16_t button, std::int16_t shift, double x, double y) {
-  errors_.Trap(kModule, "picScreen_MouseUp", [&] {
+  Trap("picScreen_MouseUp", [&] {
     clickDone_ = false;
     const std::int32_t upX = checked::Round(x);
     const std::int32_t upY = checked::Round(y);
@@ -216,7 +221,7 @@ void ColorHexagon::picScreen_MouseUp(std::int16_t button, std::int16_t shift, do
 }
 
 void ColorHexagon::picScreen_MouseMove(std::int16_t button, std::int16_t shift, double x, double y) {
-  errors_.Trap(kModule, "picScreen_MouseMove", [&] {
+  Trap("picScreen_MouseMove", [&] {
     const bool inside = 0 <= x && x <= picScreen_.ScaleWidth() && 0 <= y && y <= picScreen_.ScaleHeight();
     if (!inside) {
       hoverGone_ = true;
@@ -237,7 +242,7 @@ void ColorHexagon::picScreen_MouseMove(std::int16_t button, std::int16_t shift, 
 }
 
 void ColorHexagon::picScreen_DblClick() {
-  errors_.Trap(kModule, "picScreen_DblClick", [&] {
+  Trap("picScreen_DblClick", [&] {
     if (!clickDone_) return;
     CColorboxEl current(errors_);
     current.SetColor(color_);
@@ -246,7 +251,7 @@ void ColorHexagon::picScreen_DblClick() {
 }
 
 void ColorHexagon::UserControl_KeyDown(std::int16_t keyCode, std::int16_t) {
-  errors_.Trap(kModule, "UserControl_KeyDown", [&] {
+  Trap("UserControl_KeyDown", [&] {
     if (!selected_) {
       // With nothing selected any key just selects the first cell.
       CurrentColor(CellAt(1));
@@ -258,7 +263,7 @@ void ColorHexagon::UserControl_KeyDown(std::int16_t keyCode, std::int16_t) {
 }
 
 void ColorHexagon::Timer1_Timer() {
-  errors_.Trap(kModule, "Timer1_Timer", [&] {
+  Trap("Timer1_Timer", [&] {
     if (!hoverGone_) return;
     lblOverColor_.SetCaption("");
     picScreen_.SetToolTipText("");
@@ -297,7 +302,7 @@ void ColorHexagon::ApplyDefaults() {
 }
 
 void ColorHexagon::LoadHexColors() {
-  errors_.Trap(kModule, "LoadHexColors", [&] {
+  Trap("LoadHexColors", [&] {
     for (const HexagonCellEntry& entry : HexagonTable::Cells()) {
       LiveCells().Add(entry.Name, entry.Color, entry.X, entry.Y, entry.IsLarge);
     }
@@ -305,7 +310,7 @@ void ColorHexagon::LoadHexColors() {
 }
 
 void ColorHexagon::DrawShape(const CellPtr& cell, bool selected) {
-  errors_.Trap(kModule, "DrawShape", [&] {
+  Trap("DrawShape", [&] {
     if (!cell) return;
     if (selected && cell != selected_) DrawShape(selected_, false);  // take the old mark off
     PaintCell(*cell);
@@ -338,7 +343,7 @@ void ColorHexagon::PaintSelectionMark(const CColorboxEl& cell) {
 // so IsAutomatic stays as it is. The third event argument is the decimal colour
 // wrapped like a name, unlike the setter's; kept on purpose: hosts rely on both forms.
 void ColorHexagon::CurrentColor(const CellPtr& cell) {
-  errors_.Trap(kModule, "CurrentColor", [&] {
+  Trap("CurrentColor", [&] {
     if (!cell) return;
     color_ = cell->Color();
     DrawShape(cell, true);

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "colorhexagon/ColorHexagonEvents.h"
 #include "colormodel/CColorboxCol.h"
@@ -94,6 +95,8 @@ class ColorHexagon : public SurfaceEvents, public ControlEvents {
   void KeyDown(std::int16_t& keyCode, std::int16_t shift) override;
 
  private:
+  template <class Body>
+  void Trap(std::string_view procedure, Body&& body) const;
   void PrepareCells();
   void ApplyDefaults();
   void LoadHexColors();
@@ -113,6 +116,9 @@ class ColorHexagon : public SurfaceEvents, public ControlEvents {
   Label& lblOverColor_;
   ControlSite& site_;
   ColorHexagonEvents& events_;
+  // Expires with the control: a procedure whose host deletes the control midway
+  // reports nothing.
+  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
   std::unique_ptr<HostTimer> timer1_;
 
   std::unique_ptr<CColorboxCol> cells_;

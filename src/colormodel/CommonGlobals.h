@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <memory>
 #include <new>
 #include <optional>
 #include <stdexcept>
@@ -49,11 +50,33 @@ class CommonGlobals {
     }
   }
 
+  // The same for a procedure of a control whose host may delete it while the
+  // procedure runs (from a handler of an event it raises, or from a timer inside an
+  // error box's or a form's modal loop). `alive` is the control's liveness token: an
+  // error that ends a procedure whose control is gone is not reported, since the host
+  // has already closed what it concerned.
+  template <class Body>
+  void Trap(std::string_view module, std::string_view procedure, const std::weak_ptr<bool>& alive,
+            Body&& body) const noexcept {
+    try {
+      std::forward<Body>(body)();
+    } catch (...) {
+      if (!alive.expired()) ReportCurrentException(module, procedure);
+    }
+  }
+
   // A setter that notifies the host: the trap, then PropertyChanged(label) on the
   // normal path and after a reported error alike.
   template <class Body>
   void TrapAndNotify(std::string_view module, std::string_view label, ControlSite& site,
                      Body&& body) const noexcept;
+
+  // The same with the control's liveness token: a control gone by the end of the
+  // setter (its error box runs a loop) is neither reported on nor notified; its site
+  // went with it.
+  template <class Body>
+  void TrapAndNotify(std::string_view module, std::string_view label, ControlSite& site,
+                     const std::weak_ptr<bool>& alive, Body&& body) const noexcept;
 
   // For the handlers whose failures are ignored (resize, terminate, some timers).
   template <class Body>
@@ -79,6 +102,13 @@ void CommonGlobals::TrapAndNotify(std::string_view module, std::string_view labe
                                   ControlSite& site, Body&& body) const noexcept {
   Trap(module, label, std::forward<Body>(body));
   NotifyChanged(site, label);
+}
+
+template <class Body>
+void CommonGlobals::TrapAndNotify(std::string_view module, std::string_view label, ControlSite& site,
+                                  const std::weak_ptr<bool>& alive, Body&& body) const noexcept {
+  Trap(module, label, alive, std::forward<Body>(body));
+  if (!alive.expired()) NotifyChanged(site, label);
 }
 
 }  // namespace lumo

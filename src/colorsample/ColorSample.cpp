@@ -29,12 +29,12 @@ constexpr OLE_COLOR kBlack = 0;
 
 template <class Body>
 void ColorSample::Trap(std::string_view label, Body&& body) const {
-  runtime_.Errors().Trap(kModule, label, std::forward<Body>(body));
+  runtime_.Errors().Trap(kModule, label, m_Alive, std::forward<Body>(body));
 }
 
 template <class Body>
 void ColorSample::TrapAndNotify(std::string_view label, Body&& body) {
-  runtime_.Errors().TrapAndNotify(kModule, label, site_, std::forward<Body>(body));
+  runtime_.Errors().TrapAndNotify(kModule, label, site_, m_Alive, std::forward<Body>(body));
 }
 
 ColorSample::ColorSample(Runtime& runtime, DrawingSurface& surface, ControlSite& site)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -72,6 +73,9 @@ class ColorSample : public ControlEvents {
   Runtime& runtime_;
   DrawingSurface& picScreen;  // the drawing surface keeps its platform name
   ControlSite& site_;
+  // Expires with the control: a procedure whose host deletes the control midway
+  // reports and notifies nothing.
+  std::shared_ptr<bool> m_Alive = std::make_shared<bool>(true);
 
   OLE_COLOR m_BackColor = 0;
   OLE_COLOR m_ForeColor = 0;
