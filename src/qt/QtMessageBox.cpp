@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
+#include <QWindow>
 
 #include <vector>
 
@@ -69,21 +71,36 @@ std::string QtMessageBox::displayText(const std::string& prompt) {
 }
 
 std::int32_t QtMessageBox::MsgBox(const std::string& prompt, std::int32_t style, const std::string& title) {
-  QMessageBox box(IconOf(style), QString::fromStdString(title), QString::fromStdString(displayText(prompt)),
-                  QMessageBox::NoButton, QApplication::activeWindow());
-  box.setTextFormat(Qt::PlainText);
+  // A parentless heap box: a host may delete the active window, or the whole form,
+  // from a timer while the box runs its loop, and a box parented there would be freed
+  // under its own exec(). It still stands over that window while the window lives.
+  QPointer<QMessageBox> box = new QMessageBox(IconOf(style), QString::fromStdString(title),
+                                              QString::fromStdString(displayText(prompt)), QMessageBox::NoButton);
+  box->setTextFormat(Qt::PlainText);
   const std::vector<Choice> choices = ChoicesOf(style);
-  for (const Choice& choice : choices) box.addButton(choice.button);
+  for (const Choice& choice : choices) box->addButton(choice.button);
   const std::size_t defaultIndex = static_cast<std::size_t>((style >> kDefaultShift) & 0x3);
-  box.setDefaultButton(choices[defaultIndex < choices.size() ? defaultIndex : 0].button);
-  SetEscapeButton(box, choices);
-  box.setWindowModality(Qt::ApplicationModal);
+  box->setDefaultButton(choices[defaultIndex < choices.size() ? defaultIndex : 0].button);
+  SetEscapeButton(*box, choices);
+  box->setWindowModality(Qt::ApplicationModal);
+  StandOver(*box, QApplication::activeWindow());
 
-  const int answer = box.exec();
+  const int answer = box->exec();
+  if (box.isNull()) return choices.size() == 1 ? choices.front().code : kCancel;
+  delete box.data();
   for (const Choice& choice : choices) {
     if (choice.button == answer) return choice.code;
   }
   return choices.size() == 1 ? choices.front().code : kCancel;
+}
+
+void QtMessageBox::StandOver(QWidget& box, QWidget* owner) {
+  if (owner == nullptr) return;
+  box.winId();
+  QWidget* ownerWindow = owner->window();
+  if (box.windowHandle() && ownerWindow->windowHandle()) {
+    box.windowHandle()->setTransientParent(ownerWindow->windowHandle());
+  }
 }
 
 }  // namespace LumoColorCombo::host
