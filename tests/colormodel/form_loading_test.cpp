@@ -3,6 +3,7 @@
 #include <clocale>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "colorbox/ColorBox.h"
@@ -44,33 +45,28 @@ struct DamagedCase {
   LoadAndSave load;
 };
 
-LoadAndSave LoadBox() {
-  return [](Host& h, const PropertyBag& stored, PropertyBag& saved) {
-    ColorBox box(h.host.Runtime, h.surface, h.site, h);
-    box.UserControl_ReadProperties(stored);
-    box.UserControl_WriteProperties(saved);
+// Creates the control on the host's site and loads and saves it the way a container does,
+// through the events the site delivers.
+template <class Create>
+LoadAndSave Through(Create create) {
+  return [create](Host& h, const PropertyBag& stored, PropertyBag& saved) {
+    const auto control = create(h);
+    h.site.StartControl(&stored);
+    h.site.SaveControl(saved);
   };
+}
+LoadAndSave LoadBox() {
+  return Through([](Host& h) { return std::make_unique<ColorBox>(h.host.Runtime, h.surface, h.site, h); });
 }
 LoadAndSave LoadHexagon() {
-  return [](Host& h, const PropertyBag& stored, PropertyBag& saved) {
-    ColorHexagon hexagon(h.host.Runtime, h.surface, h.label, h.site, h);
-    hexagon.UserControl_ReadProperties(stored);
-    hexagon.UserControl_WriteProperties(saved);
-  };
+  return Through(
+      [](Host& h) { return std::make_unique<ColorHexagon>(h.host.Runtime, h.surface, h.label, h.site, h); });
 }
 LoadAndSave LoadCombo() {
-  return [](Host& h, const PropertyBag& stored, PropertyBag& saved) {
-    ColorCombo combo(h.host.Runtime, h.surface, h.site, h);
-    combo.UserControl_ReadProperties(stored);
-    combo.UserControl_WriteProperties(saved);
-  };
+  return Through([](Host& h) { return std::make_unique<ColorCombo>(h.host.Runtime, h.surface, h.site, h); });
 }
 LoadAndSave LoadSample() {
-  return [](Host& h, const PropertyBag& stored, PropertyBag& saved) {
-    ColorSample sample(h.host.Runtime, h.surface, h.site);
-    sample.UserControl_ReadProperties(stored);
-    sample.UserControl_WriteProperties(saved);
-  };
+  return Through([](Host& h) { return std::make_unique<ColorSample>(h.host.Runtime, h.surface, h.site); });
 }
 
 class DamagedForm : public Host, public ::testing::WithParamInterface<DamagedCase> {};
