@@ -20,7 +20,7 @@
 
 #include "colorbox/ColorBox.h"
 #include "colorcombo/frmDropdown.h"
-#include "qt/ColorCombo.h"
+#include <LumoColorCombo/ColorCombo.h>
 #include "qt/QtFormWindow.h"
 #include "qt/QtHost.h"
 #include "qt/SurfaceWidget.h"

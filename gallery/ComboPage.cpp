@@ -16,7 +16,7 @@
 
 #include "ComboPropertyEditor.h"
 #include "EventLog.h"
-#include "qt/ColorCombo.h"
+#include <LumoColorCombo/ColorCombo.h>
 #include "qt/SurfaceWidget.h"
 
 using namespace LumoColorCombo;

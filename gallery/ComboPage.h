@@ -5,7 +5,7 @@
 #include <QList>
 #include <QWidget>
 
-#include "qt/LumoColorCombo.h"
+#include <LumoColorCombo/LumoColorCombo.h>
 
 class ComboPropertyEditor;
 class EventLog;

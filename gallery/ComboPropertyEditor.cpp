@@ -10,7 +10,7 @@
 #include <QMetaProperty>
 #include <QSpinBox>
 
-#include "qt/ColorCombo.h"
+#include <LumoColorCombo/ColorCombo.h>
 
 using LumoColorCombo::ColorCombo;
 

@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "qt/ColorCombo.h"
+#include <LumoColorCombo/ColorCombo.h>
 
 class QFormLayout;
 class QMetaProperty;

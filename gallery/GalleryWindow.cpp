@@ -13,7 +13,7 @@
 #include "HoneycombPage.h"
 #include "PalettesPage.h"
 #include "SamplePage.h"
-#include "qt/MoreColorsDialog.h"
+#include <LumoColorCombo/MoreColorsDialog.h>
 
 using LumoColorCombo::OLE_COLOR;
 

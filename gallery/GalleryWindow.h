@@ -3,7 +3,7 @@
 #include <QMainWindow>
 #include <QVariantList>
 
-#include "qt/LumoColorCombo.h"
+#include <LumoColorCombo/LumoColorCombo.h>
 
 class EventLog;
 class QTabWidget;

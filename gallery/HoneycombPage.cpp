@@ -8,7 +8,7 @@
 
 #include "EventLog.h"
 #include "GalleryWindow.h"
-#include "qt/ColorHexagon.h"
+#include <LumoColorCombo/ColorHexagon.h>
 
 using LumoColorCombo::ColorHexagon;
 using LumoColorCombo::OLE_COLOR;

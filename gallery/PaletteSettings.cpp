@@ -7,7 +7,7 @@
 #include <QRegularExpressionValidator>
 
 #include "colormodel/Types.h"
-#include "qt/ColorBox.h"
+#include <LumoColorCombo/ColorBox.h>
 
 namespace {
 

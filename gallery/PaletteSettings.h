@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "qt/LumoColorCombo.h"
+#include <LumoColorCombo/LumoColorCombo.h>
 
 class QCheckBox;
 class QComboBox;

@@ -11,7 +11,7 @@
 #include "EventLog.h"
 #include "GalleryWindow.h"
 #include "PaletteSettings.h"
-#include "qt/ColorBox.h"
+#include <LumoColorCombo/ColorBox.h>
 #include "qt/SurfaceWidget.h"
 
 using LumoColorCombo::ColorBox;

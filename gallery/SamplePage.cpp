@@ -13,8 +13,8 @@
 
 #include "EventLog.h"
 #include "colormodel/Types.h"
-#include "qt/ColorCombo.h"
-#include "qt/ColorSample.h"
+#include <LumoColorCombo/ColorCombo.h>
+#include <LumoColorCombo/ColorSample.h>
 
 using LumoColorCombo::ColorCombo;
 using LumoColorCombo::ColorSample;

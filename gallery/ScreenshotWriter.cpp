@@ -11,9 +11,9 @@
 #include "GalleryWindow.h"
 #include "HoneycombPage.h"
 #include "PalettesPage.h"
-#include "qt/ColorBox.h"
-#include "qt/ColorHexagon.h"
-#include "qt/ColorSample.h"
+#include <LumoColorCombo/ColorBox.h>
+#include <LumoColorCombo/ColorHexagon.h>
+#include <LumoColorCombo/ColorSample.h>
 
 ScreenshotWriter::ScreenshotWriter(GalleryWindow& window, const QString& folder)
     : window_(window), folder_(folder) {

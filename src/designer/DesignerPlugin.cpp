@@ -5,10 +5,10 @@
 #include <QIcon>
 #include <QWidget>
 
-#include "qt/ColorBox.h"
-#include "qt/ColorCombo.h"
-#include "qt/ColorHexagon.h"
-#include "qt/ColorSample.h"
+#include <LumoColorCombo/ColorBox.h>
+#include <LumoColorCombo/ColorCombo.h>
+#include <LumoColorCombo/ColorHexagon.h>
+#include <LumoColorCombo/ColorSample.h>
 
 namespace LumoColorCombo::designer {
 namespace {
@@ -23,17 +23,17 @@ QWidget* create(QWidget* parent, bool designing) {
 
 // The widgets of the library, in the order of Designer's widget box.
 const WidgetEntry kWidgets[] = {
-    {"LumoColorCombo::ColorCombo", "qt/ColorCombo.h", "Colour combo",
+    {"LumoColorCombo::ColorCombo", "<LumoColorCombo/ColorCombo.h>", "Colour combo",
      "A field showing the current colour that drops a palette grid under itself; previews the colour under "
      "the pointer and raises Before/After events for each pick.",
      "LumoColorCombo", &create<ColorCombo>},
-    {"LumoColorCombo::ColorBox", "qt/ColorBox.h", "Palette colour grid",
+    {"LumoColorCombo::ColorBox", "<LumoColorCombo/ColorBox.h>", "Palette colour grid",
      "A grid of one of fifteen palettes, with optional \"Automatic\" and \"More Colors...\" buttons.",
      "LumoColorCombo", &create<ColorBox>},
-    {"LumoColorCombo::ColorHexagon", "qt/ColorHexagon.h", "Honeycomb colour picker",
+    {"LumoColorCombo::ColorHexagon", "<LumoColorCombo/ColorHexagon.h>", "Honeycomb colour picker",
      "A honeycomb of 127 colour cells and a grey row, with a caption naming the colour under the pointer.",
      "LumoColorCombo", &create<ColorHexagon>},
-    {"LumoColorCombo::ColorSample", "qt/ColorSample.h", "Colour sample",
+    {"LumoColorCombo::ColorSample", "<LumoColorCombo/ColorSample.h>", "Colour sample",
      "A sample text in a chosen text colour on a chosen background, to preview a colour pair.",
      "LumoColorCombo", &create<ColorSample>},
 };

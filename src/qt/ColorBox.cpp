@@ -1,4 +1,4 @@
-#include "qt/ColorBox.h"
+#include <LumoColorCombo/ColorBox.h>
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "qt/ColorCombo.h"
+#include <LumoColorCombo/ColorCombo.h>
 
 #include <optional>
 

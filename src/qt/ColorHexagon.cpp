@@ -1,4 +1,4 @@
-#include "qt/ColorHexagon.h"
+#include <LumoColorCombo/ColorHexagon.h>
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "qt/ColorSample.h"
+#include <LumoColorCombo/ColorSample.h>
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "qt/MoreColorsDialog.h"
+#include <LumoColorCombo/MoreColorsDialog.h>
 
 #include "colormodel/Runtime.h"
 #include "morecolors/frmPopup.h"

@@ -1,7 +1,7 @@
 // End to end: a real, shown ColorBox widget driven with QTest mouse and key events.
 #include <QtTest>
 
-#include "qt/ColorBox.h"
+#include <LumoColorCombo/ColorBox.h>
 #include "qt/SurfaceWidget.h"
 
 using LumoColorCombo::ColorBox;

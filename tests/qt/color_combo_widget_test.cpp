@@ -16,7 +16,7 @@
 #include "colorcombo/frmDropdown.h"
 #include "colorhexagon/ColorHexagon.h"
 #include "morecolors/frmPopup.h"
-#include "qt/ColorCombo.h"
+#include <LumoColorCombo/ColorCombo.h>
 #include "qt/QtFormWindow.h"
 #include "qt/QtHost.h"
 #include "qt/SurfaceWidget.h"

@@ -2,7 +2,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-#include "qt/ColorHexagon.h"
+#include <LumoColorCombo/ColorHexagon.h>
 #include "qt/QtLabel.h"
 #include "qt/SurfaceWidget.h"
 

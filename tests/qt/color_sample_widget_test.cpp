@@ -9,7 +9,7 @@
 #include "ModalCloser.h"
 #include "colormodel/WindowSystem.h"
 #include "qt/AboutDialog.h"
-#include "qt/ColorSample.h"
+#include <LumoColorCombo/ColorSample.h>
 #include "qt/QtHost.h"
 #include "qt/SurfaceWidget.h"
 #include "qt/Version.h"

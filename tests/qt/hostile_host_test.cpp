@@ -14,9 +14,9 @@
 #include "colorcombo/frmDropdown.h"
 #include "colormodel/ColorChooser.h"
 #include "colormodel/Runtime.h"
-#include "qt/ColorCombo.h"
-#include "qt/ColorHexagon.h"
-#include "qt/MoreColorsDialog.h"
+#include <LumoColorCombo/ColorCombo.h>
+#include <LumoColorCombo/ColorHexagon.h>
+#include <LumoColorCombo/MoreColorsDialog.h>
 #include "qt/QtFormWindow.h"
 #include "qt/QtHost.h"
 #include "qt/SurfaceWidget.h"

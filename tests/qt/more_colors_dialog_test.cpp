@@ -5,7 +5,7 @@
 #include <QtTest>
 #include <functional>
 
-#include "qt/MoreColorsDialog.h"
+#include <LumoColorCombo/MoreColorsDialog.h>
 #include "qt/SurfaceWidget.h"
 
 using LumoColorCombo::MoreColorsDialog;

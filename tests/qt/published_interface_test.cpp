@@ -10,10 +10,10 @@
 #include <memory>
 
 #include "colormodel/TypeLibrary.h"
-#include "qt/ColorBox.h"
-#include "qt/ColorCombo.h"
-#include "qt/ColorHexagon.h"
-#include "qt/ColorSample.h"
+#include <LumoColorCombo/ColorBox.h>
+#include <LumoColorCombo/ColorCombo.h>
+#include <LumoColorCombo/ColorHexagon.h>
+#include <LumoColorCombo/ColorSample.h>
 
 namespace {
 

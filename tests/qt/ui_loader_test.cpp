@@ -8,7 +8,7 @@
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QUiLoader>
 
-#include "qt/LumoColorCombo.h"
+#include <LumoColorCombo/LumoColorCombo.h>
 
 namespace {
 
@@ -29,8 +29,8 @@ const char kForm[] = R"(<?xml version="1.0" encoding="UTF-8"?>
   </widget>
  </widget>
  <customwidgets>
-  <customwidget><class>LumoColorCombo::ColorBox</class><extends>QWidget</extends><header>qt/ColorBox.h</header></customwidget>
-  <customwidget><class>LumoColorCombo::ColorHexagon</class><extends>QWidget</extends><header>qt/ColorHexagon.h</header></customwidget>
+  <customwidget><class>LumoColorCombo::ColorBox</class><extends>QWidget</extends><header>LumoColorCombo/ColorBox.h</header></customwidget>
+  <customwidget><class>LumoColorCombo::ColorHexagon</class><extends>QWidget</extends><header>LumoColorCombo/ColorHexagon.h</header></customwidget>
  </customwidgets>
 </ui>
 )";

@@ -8,7 +8,7 @@
 #include "GridSpots.h"
 #include "ServerInput.h"
 #include "WhenReady.h"
-#include "qt/ColorCombo.h"
+#include <LumoColorCombo/ColorCombo.h>
 #include "qt/QtFormWindow.h"
 #include "qt/SurfaceWidget.h"
 

@@ -15,10 +15,10 @@
 #include "PalettesPage.h"
 #include "ServerInput.h"
 #include "WhenReady.h"
-#include "qt/ColorBox.h"
-#include "qt/ColorCombo.h"
-#include "qt/ColorHexagon.h"
-#include "qt/ColorSample.h"
+#include <LumoColorCombo/ColorBox.h>
+#include <LumoColorCombo/ColorCombo.h>
+#include <LumoColorCombo/ColorHexagon.h>
+#include <LumoColorCombo/ColorSample.h>
 #include "qt/QtFormWindow.h"
 #include "qt/SurfaceWidget.h"
 

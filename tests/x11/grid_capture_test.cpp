@@ -5,7 +5,7 @@
 
 #include "GridSpots.h"
 #include "ServerInput.h"
-#include "qt/ColorBox.h"
+#include <LumoColorCombo/ColorBox.h>
 #include "qt/SurfaceWidget.h"
 
 using LumoColorCombo::ColorBox;

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QVariantList>
 
-#include "qt/LumoColorCombo.h"
+#include <LumoColorCombo/LumoColorCombo.h>
 
 namespace LumoColorCombo {
 

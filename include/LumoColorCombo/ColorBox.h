@@ -6,7 +6,7 @@
 #include <QVariantMap>
 #include <QWidget>
 
-#include "qt/LumoColorCombo.h"
+#include <LumoColorCombo/LumoColorCombo.h>
 
 namespace LumoColorCombo {
 
