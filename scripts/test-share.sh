@@ -1,6 +1,6 @@
 #!/bin/sh
 # Prints how much of the code is test code: non-blank lines of .cpp and .h files under
-# tests/ against those under src/ and gallery/. With --check it also fails when the
+# tests/ against those under src/, include/ and gallery/. With --check it also fails when the
 # share is above the project's limit (LUMO_TEST_SHARE_MAX, 0.38 unless set).
 set -eu
 cd "$(dirname "$0")/.."
@@ -10,7 +10,7 @@ lines() {
 }
 
 tests=$(lines tests)
-code=$(lines src gallery)
+code=$(lines src include gallery)
 max=${LUMO_TEST_SHARE_MAX:-0.38}
 share=$(awk -v t="$tests" -v c="$code" 'BEGIN { printf "%.2f", (c > 0 ? t / c : 0) }')
 echo "tests $tests / code $code = $share (limit $max)"
