@@ -236,7 +236,7 @@ void ColorHexagon::picScreen_MouseMove(std::int16_t button, std::int16_t shift, 
     if (!cell) return;
     const std::string name = NameOf(*cell);
     lblOverColor_.SetCaption(name);
-    picScreen_.SetToolTipText(cell->GetColorString() + " (" + cell->GetColorStringHex() + ")");
+    picScreen_.SetToolTipText(ToolTipOf(*cell));
     events_.ColorOver(cell->Color(), name, button, shift, overX, overY);
   });
 }
@@ -353,6 +353,10 @@ void ColorHexagon::CurrentColor(const CellPtr& cell) {
 
 void ColorHexagon::RaiseColorChanged(const CColorboxEl& cell, const std::string& colorHex) {
   events_.ColorChanged(cell.Color(), NameOf(cell), colorHex);
+}
+
+std::string ColorHexagon::ToolTipOf(const CColorboxEl& cell) const {
+  return cell.GetColorString() + " (" + cell.GetColorStringHex() + ")";
 }
 
 CellPtr ColorHexagon::CellAt(std::int32_t index) const { return LiveCells().Item(index); }

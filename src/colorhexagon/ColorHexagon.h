@@ -86,6 +86,8 @@ class ColorHexagon : public SurfaceEvents, public ControlEvents {
   const CColorboxCol* Cells() const { return cells_.get(); }
   // The cell that carries the selection mark, or null.
   const CellPtr& SelectedCell() const { return selected_; }
+  // The tooltip a cell shows under the pointer: "RR,GG,BB (#RRGGBB)".
+  std::string ToolTipOf(const CColorboxEl& cell) const;
 
   // SurfaceEvents: picScreen's input.
   void MouseDown(std::int16_t button, std::int16_t shift, double x, double y) override;

@@ -12,6 +12,8 @@
 #include <cmath>
 #include <utility>
 
+#include "qt/AccessibleCellList.h"
+#include "qt/AccessibleFactory.h"
 #include "qt/EdgeStrokes.h"
 #include "qt/PixelCanvas.h"
 #include "qt/Rasterizer.h"
@@ -88,6 +90,8 @@ SurfaceWidget::SurfaceWidget(QWidget* parent) : QWidget(parent), qfont_(qtFont(F
   setMouseTracking(true);
   announcedRatio_ = devicePixelRatioF();
   backing();
+  // Screen readers see the cells drawn here through the library's interfaces.
+  AccessibleFactory::install();
 }
 
 SurfaceWidget::~SurfaceWidget() = default;
@@ -339,9 +343,14 @@ bool SurfaceWidget::deliverKey(QKeyEvent* event) {
   std::int16_t keyCode = VirtualKeys::keyCode(*event);
   if (Listener() == nullptr || keyCode == 0) return false;
   const QPointer<SurfaceWidget> self(this);
+  // Only while a screen reader listens: where the keyboard is, to announce a move.
+  AccessibleCellList* reader = AccessibleCellList::listening(this);
+  const int before = reader != nullptr ? reader->focusedItem() : -1;
   Listener()->KeyDown(keyCode, VirtualKeys::shiftState(event->modifiers()));
   // The handler may have closed the window this surface lives in.
-  if (self) update();
+  if (!self) return keyCode == 0;
+  update();
+  if (AccessibleCellList* after = AccessibleCellList::listening(this)) after->announceMove(before);
   return keyCode == 0;
 }
 

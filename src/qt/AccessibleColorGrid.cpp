@@ -1,0 +1,93 @@
+#include "qt/AccessibleColorGrid.h"
+
+#include <QPointer>
+
+#include "colorbox/ColorBox.h"
+#include "colorbox/ColorBoxKeyboard.h"
+#include "qt/SurfaceWidget.h"
+
+namespace LumoColorCombo::host {
+namespace {
+
+QRect Area(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) {
+  // Cell and button bounds include every edge.
+  return QRect(QPoint(left, top), QPoint(right, bottom));
+}
+
+}  // namespace
+
+AccessibleColorGrid::AccessibleColorGrid(SurfaceWidget* surface)
+    : AccessibleCellList(surface, QWidget::tr("Colour palette")) {}
+
+lumo::ColorBox* AccessibleColorGrid::gridOf(const SurfaceWidget* surface) {
+  return dynamic_cast<lumo::ColorBox*>(surface->Listener());
+}
+
+bool AccessibleColorGrid::hasAutomatic() const { return grid() != nullptr && grid()->AllowAutomatic(); }
+
+bool AccessibleColorGrid::hasMoreColors() const { return grid() != nullptr && grid()->AllowMoreColors(); }
+
+int AccessibleColorGrid::cellCount() const {
+  const lumo::CColorboxCol* cells = grid() != nullptr ? grid()->Cells() : nullptr;
+  return cells != nullptr ? cells->Count() : 0;
+}
+
+int AccessibleColorGrid::itemCount() const {
+  return (hasAutomatic() ? 1 : 0) + cellCount() + (hasMoreColors() ? 1 : 0);
+}
+
+AccessibleItem AccessibleColorGrid::item(int index) const {
+  const lumo::ColorBox* box = grid();
+  if (box == nullptr || index < 0 || index >= itemCount()) return {};
+  if (hasAutomatic() && index == 0) {
+    return buttonItem(box->AutomaticText(), box->FocusZone() == lumo::focuszone::Automatic, box->AutoRect());
+  }
+  const int cellIndex = index + (hasAutomatic() ? 0 : 1);  // the cells count from 1
+  if (cellIndex <= cellCount()) return cellItem(cellIndex);
+  return buttonItem(box->MoreColorsText(), box->FocusZone() == lumo::focuszone::MoreColors, box->MoreRect());
+}
+
+AccessibleItem AccessibleColorGrid::cellItem(int cellIndex) const {
+  const lumo::ColorBox& box = *grid();
+  const lumo::CellPtr cell = box.Cells()->Item(cellIndex);
+  if (!cell) return {};
+  AccessibleItem result;
+  // The grid names every unnamed cell after its colour text, so the name is its tooltip.
+  result.name = QString::fromStdString(cell->Name());
+  // Palette colours are plain RGB; anything else has no colour text to give.
+  if (cell->Color() >= 0 && cell->Color() <= 0xFFFFFF) {
+    result.description = QString::fromStdString(cell->GetColorStringHex());
+  }
+  result.rect = Area(cell->BoundLeft(), cell->BoundTop(), cell->BoundRight(), cell->BoundBottom());
+  // Enter chooses the cell at the hot index, even after a repaint has cleared its frame.
+  result.focused = box.FocusZone() == lumo::focuszone::Grid && box.HotIndex() == cellIndex;
+  // The grid marks every cell of its colour.
+  result.selected = cell->Color() == box.Color();
+  return result;
+}
+
+AccessibleItem AccessibleColorGrid::buttonItem(const std::string& caption, bool focused,
+                                               const lumo::Rect& bounds) const {
+  AccessibleItem result;
+  result.name = QString::fromStdString(caption);
+  result.role = QAccessible::PushButton;
+  result.rect = Area(bounds.Left, bounds.Top, bounds.Right, bounds.Bottom);
+  result.focused = focused;
+  return result;
+}
+
+void AccessibleColorGrid::press(int index) {
+  // A left press and release on the item, through the grid's own mouse procedures: the
+  // same choice Enter makes there (ChooseCell, Automatic's Click, MoreColorClick), with
+  // the same events, and no hot tracking or capture on the way.
+  lumo::ColorBox* box = grid();
+  if (box == nullptr) return;
+  const QPoint centre = item(index).rect.center();
+  const QPointer<SurfaceWidget> alive(surface());
+  box->MouseDown(lumo::mouse::Left, 0, centre.x(), centre.y());
+  // A handler may have replaced or deleted the control in between.
+  if (alive && grid() == box) box->MouseUp(lumo::mouse::Left, 0, centre.x(), centre.y());
+  if (alive) surface()->update();
+}
+
+}  // namespace LumoColorCombo::host
