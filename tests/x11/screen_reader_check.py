@@ -1,6 +1,6 @@
 """What a screen reader hears, through AT-SPI on a private D-Bus session.
 
-Starts the screen-reader application (argument 1) with Qt's AT-SPI bridge on, finds it
+Run by screen_reader_bus.sh. Starts the screen-reader application (argument 1), finds it
 through the registry as an assistive technology does, and checks: a list named after
 each palette holding the Automatic and More Colors push buttons around named cells (an
 unnamed colour reads its colour text), the honeycomb's named cells, and, for arrow keys
@@ -14,8 +14,11 @@ import sys
 import tempfile
 import time
 
-import pyatspi
-from gi.repository import GLib
+try:
+    import pyatspi
+    from gi.repository import GLib
+except ImportError as missing:
+    sys.exit("pyatspi is missing (package python3-pyatspi): %s" % missing)
 
 TIMEOUT = 20.0
 COLOUR_TEXT = re.compile(r"^#[0-9A-F]{6}$", re.IGNORECASE)
@@ -109,8 +112,7 @@ def hear_moves(control, keys, expected):
 def main():
     app_path = sys.argv[1]
     names_file = tempfile.NamedTemporaryFile(delete=False)
-    environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
-    process = subprocess.Popen([app_path, names_file.name], env=environment)
+    process = subprocess.Popen([app_path, names_file.name])
     try:
         pyatspi.Registry.registerEventListener(on_focus, "focus:", "object:state-changed:focused")
         app = wait_for(lambda: application("lumo-screen-reader-app"), "the application on the bus")
