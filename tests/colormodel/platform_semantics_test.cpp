@@ -72,13 +72,6 @@ TEST(RoundHalfToEven, TiesGoToTheEvenNeighbourAndOutOfRangeOverflows) {
   }
 }
 
-TEST(HexText, UpperCaseWithoutLeadingZerosAndTwosComplementForNegatives) {
-  EXPECT_EQ(text::Hex(0), "0");
-  EXPECT_EQ(text::Hex(0x00ABCDEF), "ABCDEF");
-  EXPECT_EQ(text::Hex(-1), "FFFFFFFF");
-  EXPECT_EQ(text::Hex(static_cast<std::int32_t>(0x8000000F)), "8000000F");
-}
-
 struct ConversionCase {
   const char* text;
   std::optional<std::int32_t> value;  // empty: must fail with `error`
@@ -115,11 +108,6 @@ INSTANTIATE_TEST_SUITE_P(
                       ConversionCase{"2147483648", std::nullopt, err::Overflow},
                       ConversionCase{"12abc", std::nullopt, err::TypeMismatch},
                       ConversionCase{"-", std::nullopt, err::TypeMismatch}));
-
-TEST(Padding, NegativeCountIsAnInvalidArgument) {
-  EXPECT_EQ(text::Repeat(3, '0'), "000");
-  EXPECT_EQ(ErrorOf([] { text::Repeat(-1, '0'); }), err::InvalidArgument);
-}
 
 TEST(ReplaceText, TextCompareIgnoresCaseBinaryDoesNot) {
   EXPECT_EQ(text::Replace("Hex={ff}", "hex", "", text::Compare::Text), "={ff}");

@@ -65,12 +65,5 @@ INSTANTIATE_TEST_SUITE_P(
                       StoredCase{"Font", Variant(StdFont{}), "error 13", "error 13", "MS Sans Serif", "stored"}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST(PropertyBag, ValuesEqualToTheirDefaultAreNotStored) {
-  MemoryPropertyBag bag;
-  bag.WriteProperty("Color", Variant(std::int32_t{255}), Variant(std::int32_t{0x663300}));
-  bag.WriteProperty("Color", Variant(std::int32_t{0x663300}), Variant(std::int32_t{0x663300}));
-  EXPECT_TRUE(bag.Values.empty());
-}
-
 }  // namespace
 }  // namespace lumo

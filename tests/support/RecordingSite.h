@@ -19,7 +19,6 @@ class RecordingSite : public ControlSite {
   void Size(std::int32_t width, std::int32_t height) override {
     WidthTwips = width;
     HeightTwips = height;
-    ++SizeCalls;
   }
   void SetEnabled(bool enabled) override { Enabled = enabled; }
   void SetAccessKeys(const std::string& keys) override { AccessKeys = keys; }
@@ -30,7 +29,6 @@ class RecordingSite : public ControlSite {
   std::string DisplayName = "Control1";
   std::int32_t WidthTwips = 0;
   std::int32_t HeightTwips = 0;
-  int SizeCalls = 0;
   bool Enabled = true;
   std::string AccessKeys;
 };

@@ -12,12 +12,10 @@ class ScriptedColorChooser : public ColorChooser {
  public:
   std::optional<OLE_COLOR> NextChoice;
   int Shows = 0;
-  OLE_COLOR LastInitial = 0;
 
  protected:
-  bool RunDialog(OLE_COLOR initial, OLE_COLOR& chosen) override {
+  bool RunDialog(OLE_COLOR /*initial*/, OLE_COLOR& chosen) override {
     ++Shows;
-    LastInitial = initial;
     if (!NextChoice) return false;
     chosen = *NextChoice;
     return true;

@@ -25,7 +25,6 @@ void TestForm::Show(bool modal) {
     if (loaded_) events_.Form_Activate();
   }
   if (!modal) return;
-  ++ModalShows;
   if (ModalScript) ModalScript(*this);
   ModalLeftOpen = loaded_;
 }

@@ -60,8 +60,6 @@ class TestForm : public FormWindow {
   void Deactivate();
   // A key pressed while the window is active (the form sees it first).
   void PressKey(std::int16_t keyCode, std::int16_t shift = 0);
-  bool IsVisible() const { return visible_; }
-  int ModalShows = 0;
   // The script a modal show runs in place of the user; set by the window system.
   std::function<void(TestForm&)> ModalScript;
   // A modal show whose script ended without unloading the form; the show returns
