@@ -7,17 +7,19 @@
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
 
 namespace host {
+class QtHost;
 class SurfaceWidget;
 }
 
 // The palette grid: one of fifteen palettes, with an optional "Automatic" button above
 // the cells and an optional "More Colors..." button below them; mouse, keyboard and
 // tooltips. The widget sizes itself to its content.
-class ColorBox : public QWidget {
+class LUMOCOLORCOMBO_EXPORT ColorBox : public QWidget {
   Q_OBJECT
   Q_PROPERTY(LumoColorCombo::ComboPickStyles PickStyle READ PickStyle WRITE setPickStyle)
   Q_PROPERTY(QString ColorName READ ColorName)
@@ -31,6 +33,9 @@ class ColorBox : public QWidget {
 
  public:
   explicit ColorBox(QWidget* parent = nullptr);
+  // With a runtime of its own instead of the application's default one (the default
+  // constructor's): a test, or a part of an application kept apart from the rest.
+  ColorBox(host::QtHost& host, QWidget* parent);
   ~ColorBox() override;
 
   ComboPickStyles PickStyle() const;

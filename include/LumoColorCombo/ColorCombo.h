@@ -9,10 +9,12 @@
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
 
 namespace host {
+class QtHost;
 class SurfaceWidget;
 }
 
@@ -26,7 +28,7 @@ class SurfaceWidget;
 // Beside the published members, `currentColor` is the colour the field stands for as a
 // QColor (the automatic colour while IsAutomatic), marked USER, so that item delegates
 // and QDataWidgetMapper can use the combo as the editor of a colour.
-class ColorCombo : public QWidget {
+class LUMOCOLORCOMBO_EXPORT ColorCombo : public QWidget {
   Q_OBJECT
   Q_PROPERTY(bool AllowHotTracking READ AllowHotTracking WRITE setAllowHotTracking)
   Q_PROPERTY(bool AllowAutoColorBox READ AllowAutoColorBox WRITE setAllowAutoColorBox)
@@ -50,6 +52,9 @@ class ColorCombo : public QWidget {
 
  public:
   explicit ColorCombo(QWidget* parent = nullptr);
+  // With a runtime of its own instead of the application's default one (the default
+  // constructor's): a test, or a part of an application kept apart from the rest.
+  ColorCombo(host::QtHost& host, QWidget* parent);
   ~ColorCombo() override;
 
   bool AllowHotTracking() const;

@@ -7,17 +7,19 @@
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
 
 namespace host {
+class QtHost;
 class SurfaceWidget;
 class QtLabel;
 }  // namespace host
 
 // The honeycomb picker: 127 hexagonal cells and a grey row, a hover caption below,
 // selection by click or arrow keys. The widget sizes itself to its content.
-class ColorHexagon : public QWidget {
+class LUMOCOLORCOMBO_EXPORT ColorHexagon : public QWidget {
   Q_OBJECT
   Q_PROPERTY(LumoColorCombo::OLE_COLOR BackColor READ BackColor WRITE setBackColor)
   Q_PROPERTY(LumoColorCombo::OLE_COLOR AutoColor READ AutoColor WRITE setAutoColor)
@@ -27,6 +29,9 @@ class ColorHexagon : public QWidget {
 
  public:
   explicit ColorHexagon(QWidget* parent = nullptr);
+  // With a runtime of its own instead of the application's default one (the default
+  // constructor's): a test, or a part of an application kept apart from the rest.
+  ColorHexagon(host::QtHost& host, QWidget* parent);
   ~ColorHexagon() override;
 
   OLE_COLOR BackColor() const;

@@ -8,10 +8,12 @@
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
 
 namespace host {
+class QtHost;
 class SurfaceWidget;
 }
 
@@ -19,7 +21,7 @@ class SurfaceWidget;
 // with an optional one-pixel black frame. Place it beside a colour picker and feed it
 // the picks to preview a colour pair. It raises no events and takes no input: mouse
 // events go on to its parent. Unlike the grids it takes whatever size it is given.
-class ColorSample : public QWidget {
+class LUMOCOLORCOMBO_EXPORT ColorSample : public QWidget {
   Q_OBJECT
   Q_PROPERTY(LumoColorCombo::OLE_COLOR BackColor READ BackColor WRITE setBackColor)
   Q_PROPERTY(LumoColorCombo::KDBorderConstants BorderStyle READ BorderStyle WRITE setBorderStyle)
@@ -29,6 +31,9 @@ class ColorSample : public QWidget {
 
  public:
   explicit ColorSample(QWidget* parent = nullptr);
+  // With a runtime of its own instead of the application's default one (the default
+  // constructor's): a test, or a part of an application kept apart from the rest.
+  ColorSample(host::QtHost& host, QWidget* parent);
   ~ColorSample() override;
 
   // Runs the library's About box modally over this widget's window.

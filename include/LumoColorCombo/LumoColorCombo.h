@@ -1,15 +1,24 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
+#include <QPair>
+#include <QString>
+
+#include <LumoColorCombo/lumocolorcombo_export.h>
 
 // The public namespace of the widgets: the four enumerations as Qt enums, so that
 // Designer, QUiLoader and any host enumerating the meta-object find them by name.
 namespace LumoColorCombo {
-Q_NAMESPACE
+Q_NAMESPACE_EXPORT(LUMOCOLORCOMBO_EXPORT)
 
 // A colour as the controls pass it: red + 256 * green + 65536 * blue, or with the top
 // bit set a system colour index resolved against the widget's palette.
 using OLE_COLOR = qint32;
+
+// The system colours by name ("Button Face" is &H8000000F), in index order: what a
+// colour editor offers beside the colours it picks (the Designer plugin's task menu).
+LUMOCOLORCOMBO_EXPORT QList<QPair<QString, OLE_COLOR>> SystemColorNames();
 
 enum ComboPickStyles : qint32 {
   cpsStandard = 0,

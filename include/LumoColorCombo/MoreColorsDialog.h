@@ -5,14 +5,21 @@
 #include <QVariantList>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
+
+namespace host {
+class QtHost;
+}
 
 // Runs the modal "More Colors" dialog: a honeycomb, new and current swatches, a colour
 // text field and the system colour chooser. Set the caller's state, call exec(), read
 // the outcome: the result record's slots (0 committed, 1 colour, 2 automatic, 3 name),
-// or one or two slots with slot 0 false when the user cancelled.
-class MoreColorsDialog : public QObject {
+// or one or two slots with slot 0 false when the user cancelled. Given a widget as
+// parent, the dialog stands over that widget's window and draws with its palette;
+// otherwise it stands over the active window.
+class LUMOCOLORCOMBO_EXPORT MoreColorsDialog : public QObject {
   Q_OBJECT
   Q_PROPERTY(bool AllowAutomatic MEMBER allowAutomatic_)
   Q_PROPERTY(QString AutomaticText MEMBER automaticText_)
@@ -24,6 +31,8 @@ class MoreColorsDialog : public QObject {
 
  public:
   explicit MoreColorsDialog(QObject* parent = nullptr);
+  // With a runtime of its own instead of the application's default one.
+  MoreColorsDialog(host::QtHost& host, QObject* parent);
 
   void setAllowAutomatic(bool allow) { allowAutomatic_ = allow; }
   void setAutomaticText(const QString& text) { automaticText_ = text; }
@@ -40,6 +49,7 @@ class MoreColorsDialog : public QObject {
   static QVariantList popupResult();
 
  private:
+  host::QtHost* host_;
   bool allowAutomatic_ = true;
   QString automaticText_ = QStringLiteral("Automatic");
   OLE_COLOR autoColor_ = static_cast<OLE_COLOR>(0x80000010);

@@ -4,11 +4,15 @@
 
 #include <QIcon>
 #include <QWidget>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QExtensionManager>
 
 #include <LumoColorCombo/ColorBox.h>
 #include <LumoColorCombo/ColorCombo.h>
 #include <LumoColorCombo/ColorHexagon.h>
 #include <LumoColorCombo/ColorSample.h>
+
+#include "designer/ColorTaskMenu.h"
 
 namespace LumoColorCombo::designer {
 namespace {
@@ -72,7 +76,15 @@ QString WidgetInterface::domXml() const {
 }
 
 bool WidgetInterface::isInitialized() const { return designing_; }
-void WidgetInterface::initialize(QDesignerFormEditorInterface* core) { designing_ = designing_ || core != nullptr; }
+void WidgetInterface::initialize(QDesignerFormEditorInterface* core) {
+  if (designing_ || core == nullptr) return;
+  designing_ = true;
+  // One colour task menu for all the library's widgets, registered with the first.
+  QExtensionManager* extensions = core->extensionManager();
+  if (extensions != nullptr && extensions->findChild<ColorTaskMenuFactory*>() == nullptr) {
+    extensions->registerExtensions(new ColorTaskMenuFactory(extensions), Q_TYPEID(QDesignerTaskMenuExtension));
+  }
+}
 
 QWidget* WidgetInterface::createWidget(QWidget* parent) { return entry_.create(parent, designing_); }
 

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "qt/DialogOwner.h"
 #include "qt/SystemInfo.h"
 #include "qt/Version.h"
 
@@ -133,7 +134,7 @@ void AboutDialog::checkForUpdates() {
 }
 
 void AboutDialog::run(QWidget* owner) {
-  QWidget* window = owner ? owner->window() : QApplication::activeWindow();
+  QWidget* window = owner ? owner->window() : DialogOwner::window();
   const QPointer<AboutDialog> dialog = new AboutDialog(window);
   dialog->exec();
   delete dialog.data();  // null when the host deleted the window, and the box, meanwhile

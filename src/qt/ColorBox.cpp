@@ -39,19 +39,25 @@ class BoxSignals : public lumo::ColorBoxEvents {
 
 class ColorBox::Private {
  public:
-  explicit Private(ColorBox* q) : picScreen(new host::SurfaceWidget(q)), site(q), events(q) { Create(nullptr); }
-
-  void Create(const lumo::PropertyBag* bag) {
-    host::StartControl(core, bag, host::QtHost::instance().runtime(), *picScreen, site, events);
+  Private(ColorBox* q, host::QtHost& shared)
+      : host(shared), picScreen(new host::SurfaceWidget(q)), site(q), events(q) {
+    Create(nullptr);
   }
 
+  void Create(const lumo::PropertyBag* bag) {
+    host::StartControl(core, bag, host.runtime(), *picScreen, site, events);
+  }
+
+  host::QtHost& host;
   host::SurfaceWidget* picScreen;  // owned by the widget
   host::QtControlSite site;
   BoxSignals events;
   std::optional<lumo::ColorBox> core;
 };
 
-ColorBox::ColorBox(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(this)) {
+ColorBox::ColorBox(QWidget* parent) : ColorBox(host::QtHost::instance(), parent) {}
+
+ColorBox::ColorBox(host::QtHost& host, QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(this, host)) {
   setFocusProxy(d->picScreen);
   setFocusPolicy(Qt::StrongFocus);
   d->picScreen->setMouseTracking(true);  // hot tracking needs moves without a button

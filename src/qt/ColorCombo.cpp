@@ -29,13 +29,13 @@ OLE_COLOR OleColor(const QColor& color) { return color.red() | color.green() << 
 
 class ColorCombo::Private {
  public:
-  explicit Private(ColorCombo* combo)
-      : q(combo), picScreen(new host::SurfaceWidget(combo)), site(combo), events(*this) {
+  Private(ColorCombo* combo, host::QtHost& shared)
+      : host(shared), q(combo), picScreen(new host::SurfaceWidget(combo)), site(combo), events(*this) {
     site.setWidthFromContainer(true);
   }
 
   void Create(const lumo::PropertyBag* bag) {
-    host::StartControl(core, bag, host::QtHost::instance().runtime(), *picScreen, site, events);
+    host::StartControl(core, bag, host.runtime(), *picScreen, site, events);
   }
 
   // Announces the shown colour when it changed. A drop-down cycle announces once, what
@@ -111,6 +111,7 @@ class ColorCombo::Private {
     Private& d_;
   };
 
+  host::QtHost& host;
   ColorCombo* q;
   host::SurfaceWidget* picScreen;  // owned by the widget
   host::QtControlSite site;
@@ -122,7 +123,10 @@ class ColorCombo::Private {
   bool settlePending = false;
 };
 
-ColorCombo::ColorCombo(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(this)) {
+ColorCombo::ColorCombo(QWidget* parent) : ColorCombo(host::QtHost::instance(), parent) {}
+
+ColorCombo::ColorCombo(host::QtHost& host, QWidget* parent)
+    : QWidget(parent), d(std::make_unique<Private>(this, host)) {
   setFocusProxy(d->picScreen);
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

@@ -47,8 +47,8 @@ class HexagonSignals : public lumo::ColorHexagonEvents {
 
 class ColorHexagon::Private {
  public:
-  explicit Private(ColorHexagon* q)
-      : picScreen(new host::SurfaceWidget(q)), lblOverColor(new host::QtLabel(q)), site(q), events(q) {
+  Private(ColorHexagon* q, host::QtHost& shared)
+      : host(shared), picScreen(new host::SurfaceWidget(q)), lblOverColor(new host::QtLabel(q)), site(q), events(q) {
     // The honeycomb is painted at fixed positions as soon as the control exists, so the
     // surface must have its designed extent before that first paint.
     picScreen->Move(0, 0, lumo::ColorHexagon::ScreenWidthTwips, lumo::ColorHexagon::ScreenHeightTwips);
@@ -58,9 +58,10 @@ class ColorHexagon::Private {
   }
 
   void Create(const lumo::PropertyBag* bag) {
-    host::StartControl(core, bag, host::QtHost::instance().runtime(), *picScreen, *lblOverColor, site, events);
+    host::StartControl(core, bag, host.runtime(), *picScreen, *lblOverColor, site, events);
   }
 
+  host::QtHost& host;
   host::SurfaceWidget* picScreen;  // owned by the widget
   host::QtLabel* lblOverColor;     // owned by the widget
   host::QtControlSite site;
@@ -68,7 +69,10 @@ class ColorHexagon::Private {
   std::optional<lumo::ColorHexagon> core;
 };
 
-ColorHexagon::ColorHexagon(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(this)) {
+ColorHexagon::ColorHexagon(QWidget* parent) : ColorHexagon(host::QtHost::instance(), parent) {}
+
+ColorHexagon::ColorHexagon(host::QtHost& host, QWidget* parent)
+    : QWidget(parent), d(std::make_unique<Private>(this, host)) {
   setFocusProxy(d->picScreen);
   setFocusPolicy(Qt::StrongFocus);
   setAccessibleName(tr("Honeycomb colour picker"));

@@ -22,18 +22,24 @@ constexpr int kMargin = 12;
 
 class ColorSample::Private {
  public:
-  explicit Private(ColorSample* q) : picScreen(new host::SurfaceWidget(q)), site(q) { Create(nullptr); }
-
-  void Create(const lumo::PropertyBag* bag) {
-    host::StartControl(core, bag, host::QtHost::instance().runtime(), *picScreen, site);
+  Private(ColorSample* q, host::QtHost& shared) : host(shared), picScreen(new host::SurfaceWidget(q)), site(q) {
+    Create(nullptr);
   }
 
+  void Create(const lumo::PropertyBag* bag) {
+    host::StartControl(core, bag, host.runtime(), *picScreen, site);
+  }
+
+  host::QtHost& host;
   host::SurfaceWidget* picScreen;  // owned by the widget
   host::QtControlSite site;
   std::optional<lumo::ColorSample> core;
 };
 
-ColorSample::ColorSample(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(this)) {
+ColorSample::ColorSample(QWidget* parent) : ColorSample(host::QtHost::instance(), parent) {}
+
+ColorSample::ColorSample(host::QtHost& host, QWidget* parent)
+    : QWidget(parent), d(std::make_unique<Private>(this, host)) {
   // The sample takes no input: clicks go on to the parent, the focus passes it by.
   d->picScreen->setAttribute(Qt::WA_TransparentForMouseEvents);
   d->picScreen->setFocusPolicy(Qt::NoFocus);

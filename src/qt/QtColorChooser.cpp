@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QPointer>
 
+#include "qt/DialogOwner.h"
 #include "qt/QtMessageBox.h"
 #include "qt/SystemColors.h"
 
@@ -21,7 +22,7 @@ bool QtColorChooser::RunDialog(lumo::OLE_COLOR initial, lumo::OLE_COLOR& chosen)
   QPointer<QColorDialog> dialog = new QColorDialog(SystemColors::resolve(initial, QApplication::palette()));
   dialog->setOption(QColorDialog::DontUseNativeDialog);
   dialog->setWindowModality(Qt::ApplicationModal);
-  QtMessageBox::StandOver(*dialog, QApplication::activeWindow());
+  QtMessageBox::StandOver(*dialog, DialogOwner::window());
   const bool accepted = dialog->exec() == QDialog::Accepted;
   if (dialog.isNull()) return false;
   if (accepted) chosen = toOleColor(dialog->selectedColor());

@@ -12,6 +12,7 @@
 
 #include <utility>
 
+#include "qt/DialogOwner.h"
 #include "qt/QtControlSite.h"
 #include "qt/QtLabel.h"
 #include "qt/QtTextBox.h"
@@ -134,10 +135,11 @@ void QtFormWindow::Present() {
   WatchForModalWindows(true);
 }
 
-// The active window opens the form: the form stacks over it (for a popup, the window
-// it is placed against) and draws with its palette.
+// The dialog owner (DialogOwner: a window the caller named, else the active window)
+// opens the form: the form stacks over it (for a popup, the window it is placed
+// against) and draws with its palette.
 void QtFormWindow::BelongToOpener() {
-  QWidget* opener = QApplication::activeWindow();
+  QWidget* opener = DialogOwner::window();
   if (opener == nullptr || opener == this) return;
   setPalette(opener->palette());
   if (windowHandle() == nullptr) create();
@@ -146,7 +148,7 @@ void QtFormWindow::BelongToOpener() {
 
 void QtFormWindow::CentreOverActiveWindow() {
   adjustSize();
-  const QWidget* owner = QApplication::activeWindow();
+  const QWidget* owner = DialogOwner::window();
   const QScreen* screen = owner ? owner->screen() : QGuiApplication::primaryScreen();
   const QRect area = owner ? owner->frameGeometry() : (screen ? screen->availableGeometry() : QRect());
   if (area.isValid()) move(area.center() - rect().center());

@@ -29,8 +29,9 @@ namespace LumoColorCombo::host {
 // - Positions and sizes are twips: Left/Top/Width/Height of the outer frame,
 //   ScaleWidth/ScaleHeight of the client area. The window system adds the frame when
 //   the window is first shown, so a Move made while hidden is applied again then.
-// - When shown, the window belongs to the window that was active: it stacks over it
-//   (transient parent) and takes its palette, so a dark application gets dark forms.
+// - When shown, the window belongs to its owner (DialogOwner: the window a caller
+//   named, else the active one): it stacks over it (transient parent) and takes its
+//   palette, so a dark application gets dark forms.
 // - A popup form (Qt::Popup in its design: the drop-down) is placed at its Move'd
 //   screen position over that window. Qt never activates a popup, so the form gets
 //   Form_Activate once it is exposed, the keyboard focus goes to its first child that

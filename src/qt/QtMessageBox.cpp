@@ -8,6 +8,8 @@
 
 #include <vector>
 
+#include "qt/DialogOwner.h"
+
 namespace LumoColorCombo::host {
 namespace {
 
@@ -83,7 +85,7 @@ std::int32_t QtMessageBox::MsgBox(const std::string& prompt, std::int32_t style,
   box->setDefaultButton(choices[defaultIndex < choices.size() ? defaultIndex : 0].button);
   SetEscapeButton(*box, choices);
   box->setWindowModality(Qt::ApplicationModal);
-  StandOver(*box, QApplication::activeWindow());
+  StandOver(*box, DialogOwner::window());
 
   const int answer = box->exec();
   if (box.isNull()) return choices.size() == 1 ? choices.front().code : kCancel;

@@ -1,7 +1,12 @@
 #pragma once
 
 #include <QColor>
+#include <QList>
+#include <QPair>
 #include <QPalette>
+#include <QString>
+
+#include <LumoColorCombo/LumoColorCombo.h>
 
 #include "colormodel/Types.h"
 
@@ -23,6 +28,9 @@ class SystemColors {
   // has no meaning and, like any index outside 0-30, resolves to the fallback colour,
   // black, so an unknown index still draws.
   static QColor systemColor(int index, const QPalette& palette);
+
+  // Every system colour with a meaning, by name, in index order.
+  static QList<QPair<QString, OLE_COLOR>> named();
 
   // An ordinary colour value's components, ignoring the top byte.
   static QColor fromRgbValue(lumo::OLE_COLOR color);

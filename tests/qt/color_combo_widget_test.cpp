@@ -8,6 +8,7 @@
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <QWindow>
 #include <QtTest>
 
 #include <functional>
@@ -262,14 +263,21 @@ class ColorComboWidgetTest : public QObject {
     QVERIFY(OpenForm(QStringLiteral("frmDropdown")) == nullptr);
   }
 
-  // The dialog's modal loop runs inside the drop-down's, and its Ok reaches the combo.
-  void moreColorsRunsTheDialogFromTheDropdownAndOkCommits() {
+  // The dialog's modal loop runs inside the drop-down's, it paints with the palette of
+  // the combo's window and stands over it, and its Ok reaches the combo.
+  void moreColorsRunsTheDialogFromTheDropdownInTheWindowsPaletteAndOkCommits() {
     Form form;
+    const QColor dark(0x20, 0x24, 0x2C);
+    form.window.setPalette(QPalette(dark.lighter(150), dark));
     form.Show();
     OLE_COLOR chosen = 0;
     bool fromTheDropdown = false;
+    QColor background;
+    const QWindow* stacksOver = nullptr;
     WhenShown dialog(QStringLiteral("frmPopup"), [&](QtFormWindow& window) {
       fromTheDropdown = form.combo->isDroppedDown();
+      background = window.grab().toImage().pixelColor(1, 1);
+      stacksOver = window.windowHandle()->transientParent();
       QPoint cell;
       std::tie(cell, chosen) = CellOtherThan(*lumo::frmPopup::Instance(Runtime()).Hexagon()->Cells(), kStartColor);
       QTest::mouseClick(window.children().findSurface(QStringLiteral("ColorHexagon1")), Qt::LeftButton, {}, cell);
@@ -282,6 +290,8 @@ class ColorComboWidgetTest : public QObject {
     form.Click();
 
     QVERIFY(dropdown.acted() && dialog.acted() && fromTheDropdown);
+    QCOMPARE(background, dark);
+    QCOMPARE(stacksOver, form.window.windowHandle());
     QCOMPARE(FieldColor(*form.combo), Rgb(chosen));
   }
 

@@ -2,6 +2,7 @@
 // modal loop runs.
 #include <QLineEdit>
 #include <QPushButton>
+#include <QWindow>
 #include <QtTest>
 #include <functional>
 
@@ -79,6 +80,27 @@ class MoreColorsDialogTest : public QObject {
     QCOMPARE(result.at(0).toBool(), committed);
     // Ok right after opening hands back what the caller set.
     QCOMPARE(result.at(1), committed ? QVariant(0x3399FF) : QVariant());
+  }
+
+  // Given a widget, the dialog belongs to its window rather than to the active one.
+  void givenAWidgetTheDialogStandsOverItsWindowInItsPalette() {
+    const QColor dark(0x20, 0x24, 0x2C);
+    QWidget owner, active;
+    owner.setPalette(QPalette(dark.lighter(150), dark));
+    auto* control = new QWidget(&owner);
+    owner.show();
+    active.show();
+    QApplication::setActiveWindow(&active);
+    MoreColorsDialog dialog(control);
+    QColor background;
+    const QWindow* stacksOver = nullptr;
+    RunDialog(dialog, [&](QWidget& window) {
+      background = window.grab().toImage().pixelColor(1, 1);
+      stacksOver = window.windowHandle()->transientParent();
+      window.close();
+    });
+    QCOMPARE(background, dark);
+    QCOMPARE(stacksOver, owner.windowHandle());
   }
 
   void typingAColourAndLeavingTheBoxPaintsTheNewSwatchBesideTheCallersColour() {

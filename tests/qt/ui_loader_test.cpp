@@ -1,9 +1,13 @@
 // Forms saved by Qt Designer load at run time through QUiLoader and the plugin:
 // the right widgets with their saved properties, in run mode; the same plugin puts
 // the widgets it makes for Designer in design mode.
+#include <QAction>
 #include <QBuffer>
+#include <QMenu>
 #include <QPluginLoader>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerTaskMenuExtension>
+#include <QtDesigner/QExtensionManager>
 #include <QtTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QUiLoader>
@@ -42,6 +46,12 @@ QWidget* Child(QWidget& form, const char* className, const char* objectName) {
   return widget != nullptr && qstrcmp(widget->metaObject()->className(), className) == 0 ? widget : nullptr;
 }
 
+// Designer's form editor as far as the plugin uses it: its extension manager.
+class FormEditor : public QDesignerFormEditorInterface {
+ public:
+  FormEditor() { setExtensionManager(new QExtensionManager(this)); }
+};
+
 bool HasGrabberWithin(const QWidget* widget) {
   return QWidget::mouseGrabber() != nullptr && widget->isAncestorOf(QWidget::mouseGrabber());
 }
@@ -78,8 +88,9 @@ class UiLoaderTest : public QObject {
   }
 
   // Runs last: once Designer's form editor has initialised the plugin, every widget
-  // it makes in this process is made for a designed form.
-  void widgetsMadeForDesignerAreInDesignMode() {
+  // it makes in this process is made for a designed form, with a task menu that edits
+  // each of its colour properties.
+  void widgetsMadeForDesignerAreInDesignModeWithAColourTaskMenu() {
     QPluginLoader plugin(QStringLiteral(LUMO_DESIGNER_PLUGIN));
     auto* collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
     QVERIFY2(collection != nullptr, qPrintable(plugin.errorString()));
@@ -89,7 +100,7 @@ class UiLoaderTest : public QObject {
     }
     QVERIFY(boxInterface != nullptr);
 
-    QDesignerFormEditorInterface core;
+    FormEditor core;
     boxInterface->initialize(&core);
     QVERIFY(boxInterface->isInitialized());
     QWidget form;
@@ -99,6 +110,16 @@ class UiLoaderTest : public QObject {
     QVERIFY(QTest::qWaitForWindowExposed(&form));
     QVERIFY(box->isVisible());
     QVERIFY(!HasGrabberWithin(box));
+
+    auto* menu = qt_extension<QDesignerTaskMenuExtension*>(core.extensionManager(), box);
+    QVERIFY(menu != nullptr);
+    QStringList texts;
+    for (QAction* action : menu->taskActions()) texts << action->text();
+    QCOMPARE(texts, QStringList({"Choose Colour (AutoColor)...", "System Colour (AutoColor)",
+                                 "Choose Colour (Color)...", "System Colour (Color)"}));
+    QCOMPARE(menu->preferredEditAction(), menu->taskActions().at(0));
+    QVERIFY(menu->taskActions().at(1)->menu() != nullptr);
+    QCOMPARE(menu->taskActions().at(1)->menu()->actions().size(), LumoColorCombo::SystemColorNames().size());
   }
 };
 
