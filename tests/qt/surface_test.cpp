@@ -273,6 +273,7 @@ class SurfaceTest : public QObject {
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("expected");
     QTest::newRow("Return") << int(Qt::Key_Return) << 0 << "KeyDown 13 0";
+    QTest::newRow("keypad Enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << "KeyDown 13 0";
     QTest::newRow("Escape") << int(Qt::Key_Escape) << 0 << "KeyDown 27 0";
     QTest::newRow("Q") << int(Qt::Key_Q) << 0 << "KeyDown 81 0";
     QTest::newRow("F4") << int(Qt::Key_F4) << 0 << "KeyDown 115 0";
