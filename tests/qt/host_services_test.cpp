@@ -1,5 +1,5 @@
 // The Qt host's services with their modal loops: message box, timers, colour chooser,
-// and the control site (twips, ambient properties, access keys).
+// and the control site (ambient properties, access keys).
 #include <QtTest>
 
 #include <QColorDialog>
@@ -123,26 +123,6 @@ class HostServicesTest : public QObject {
     QCOMPARE(opened, QColor(1, 2, 3));
     QCOMPARE(chooser.Color(), expected);
     QCOMPARE(raised, !confirm && cancelError);
-  }
-
-  void siteSizesTheWidgetInTwips_data() {
-    QTest::addColumn<int>("twipsWide");
-    QTest::addColumn<int>("twipsHigh");
-    QTest::addColumn<QSize>("pixels");
-    QTest::newRow("whole pixels") << 3585 << 255 << QSize(239, 17);
-    QTest::newRow("under half rounds down") << 3592 << 22 << QSize(239, 1);
-    QTest::newRow("over half rounds up") << 3593 << 23 << QSize(240, 2);
-  }
-  void siteSizesTheWidgetInTwips() {
-    QFETCH(int, twipsWide);
-    QFETCH(int, twipsHigh);
-    QFETCH(QSize, pixels);
-    QWidget widget;
-    QtControlSite site(&widget);
-    site.Size(twipsWide, twipsHigh);
-    QCOMPARE(widget.size(), pixels);
-    QCOMPARE(widget.minimumSize(), pixels);
-    QCOMPARE(QSize(site.Width(), site.Height()), pixels * 15);
   }
 
   void siteReportsTheFormsAmbientProperties() {
