@@ -213,6 +213,7 @@ void ColorBox::UserControl_Terminate() {
     m_HotCell.reset();
     if (m_Colors) m_Colors->Clear();
     m_Colors.reset();
+    m_LoadedInto = nullptr;
   });
 }
 
@@ -226,7 +227,8 @@ CColorboxCol& ColorBox::Colors() const {
 void ColorBox::Refresh() {
   Trap("Refresh", [&] {
     if (m_PickStyle == m_NoStyle) return;
-    m_Palettes.Load(m_PickStyle, Colors());
+    LoadPalette();
+    m_GapsAbove = Layout().GapsAboveRows();
     // Every cell is repainted plain below, so no cell stays hot. The focus zone and
     // the hot index survive: the keyboard carries on from where it was.
     m_HotCell.reset();
@@ -248,6 +250,17 @@ void ColorBox::Refresh() {
     picScreen.Refresh();
     RaiseGuarded([&] { events_.Resize(); });
   });
+}
+
+void ColorBox::LoadPalette() {
+  // The cells of a style are built (and named below) once; a Refresh of the same
+  // style redraws them. Only the palette loader and Terminate change the list.
+  CColorboxCol& cells = Colors();
+  if (m_PickStyle == m_LoadedStyle && &cells == m_LoadedInto) return;
+  if (m_Palettes.Load(m_PickStyle, cells)) {
+    m_LoadedStyle = m_PickStyle;
+    m_LoadedInto = &cells;
+  }
 }
 
 ColorBoxLayout ColorBox::Layout() const { return {Columns(), Colors().Count(), RowGapMarker()}; }
@@ -326,7 +339,7 @@ void ColorBox::MakeHot(const CellPtr& cell, std::int32_t index) {
 
 Point ColorBox::CellOrigin(std::int32_t index) const {
   const std::int32_t gridTop = m_AllowAutomatic ? checked::Add(GetTextHeight(), kGridTop) : kGridTop;
-  return Layout().CellOrigin(index, GridLeft(), gridTop);
+  return Layout().CellOrigin(index, GridLeft(), gridTop, m_GapsAbove);
 }
 
 std::int32_t ColorBox::GridLeft() const {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "colorbox/ColorBoxLayout.h"
 #include "colorbox/ColorBoxPainter.h"
@@ -133,6 +134,7 @@ class ColorBox : public SurfaceEvents, public ControlEvents {
   CColorboxCol& Colors() const;
 
   // Refresh, step by step.
+  void LoadPalette();
   ColorBoxLayout Layout() const;
   void SizeToContent();
   void PaintAutomaticButton(std::int32_t x, std::int32_t& y, std::int32_t surfaceWidth);
@@ -173,6 +175,12 @@ class ColorBox : public SurfaceEvents, public ControlEvents {
   ColorBoxPalettes m_Palettes;
   // Refresh does nothing while PickStyle equals this; it is -1 and never changes.
   std::int32_t m_NoStyle = -1;
+  // The style whose cells the list holds, and that list: a Refresh of the same style
+  // keeps them.
+  std::int32_t m_LoadedStyle = -1;
+  const CColorboxCol* m_LoadedInto = nullptr;
+  // The row gaps of the loaded cells (ColorBoxLayout::GapsAboveRows), for drawing them.
+  std::vector<std::int32_t> m_GapsAbove;
 
   std::int32_t m_PickStyle = 0;
   OLE_COLOR m_Color = 0;

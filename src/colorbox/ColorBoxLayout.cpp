@@ -40,6 +40,17 @@ std::int32_t ColorBoxLayout::GapsAbove(std::int32_t row) const {
   return pixels;
 }
 
+std::vector<std::int32_t> ColorBoxLayout::GapsAboveRows() const {
+  std::vector<std::int32_t> gaps;
+  const std::int32_t rows = Rows();
+  std::int32_t pixels = 0;
+  for (std::int32_t row = 0; row < rows; ++row) {
+    if (row > 0) pixels = Add(pixels, GapBefore(row));
+    gaps.push_back(pixels);
+  }
+  return gaps;
+}
+
 Point ColorBoxLayout::SurfaceSize(std::int32_t textHeight, bool withAutomatic, bool withMoreColors) const {
   std::int32_t height = Add(Mul(Rows(), CellPitch), 2);
   if (withAutomatic) height = Add(height, textHeight);
@@ -52,6 +63,15 @@ Point ColorBoxLayout::CellOrigin(std::int32_t index, std::int32_t gridLeft, std:
   const std::int32_t row = Div(Sub(index, 1), columns_);
   const std::int32_t column = Mod(Sub(index, 1), columns_);
   return {Add(Mul(column, CellPitch), gridLeft), Add(Mul(row, CellPitch), Add(gridTop, GapsAbove(row)))};
+}
+
+Point ColorBoxLayout::CellOrigin(std::int32_t index, std::int32_t gridLeft, std::int32_t gridTop,
+                                 const std::vector<std::int32_t>& gapsAbove) const {
+  const std::int32_t row = Div(Sub(index, 1), columns_);
+  if (row < 0 || static_cast<std::size_t>(row) >= gapsAbove.size()) return CellOrigin(index, gridLeft, gridTop);
+  const std::int32_t column = Mod(Sub(index, 1), columns_);
+  return {Add(Mul(column, CellPitch), gridLeft),
+          Add(Mul(row, CellPitch), Add(gridTop, gapsAbove[static_cast<std::size_t>(row)]))};
 }
 
 std::vector<std::int32_t> ColorBoxLayout::GapLines(std::int32_t y) const {

@@ -40,12 +40,18 @@ class ColorBoxLayout {
   // The gap (4 or 0) above zero-based row `row`, and the sum of the gaps above it.
   std::int32_t GapBefore(std::int32_t row) const;
   std::int32_t GapsAbove(std::int32_t row) const;
+  // GapsAbove of every row, 0 .. Rows() - 1, each summed from the one before: a grid
+  // keeps it beside its cells instead of reading the marker again for each cell.
+  std::vector<std::int32_t> GapsAboveRows() const;
 
   // The surface's extent in pixels for a text height and the buttons shown.
   Point SurfaceSize(std::int32_t textHeight, bool withAutomatic, bool withMoreColors) const;
   // Top left of the square of 1-based cell `index`, for a grid whose first row is at
   // `gridTop` and first column at `gridLeft`.
   Point CellOrigin(std::int32_t index, std::int32_t gridLeft, std::int32_t gridTop) const;
+  // The same, taking the gaps of the rows `gapsAbove` covers from it (GapsAboveRows).
+  Point CellOrigin(std::int32_t index, std::int32_t gridLeft, std::int32_t gridTop,
+                   const std::vector<std::int32_t>& gapsAbove) const;
   // The y of each etched gap line when the grid's top area starts at `y`.
   std::vector<std::int32_t> GapLines(std::int32_t y) const;
 

@@ -29,6 +29,7 @@ CellPtr CColorboxCol::Add(const std::string& sName, OLE_COLOR lColor, std::int32
     cell->SetIsLarge(bIsLarge);
     cells_.push_back(cell);
     newIndex_ = Count();
+    cell->SetPosition(newIndex_);
     result = std::move(cell);
   });
   return result;
@@ -55,14 +56,19 @@ void CColorboxCol::Remove(std::int32_t index) {
     if (!cell) return;
     cell->SetParent(nullptr);
     cells_.erase(cells_.begin() + (index - 1));
+    for (auto i = static_cast<std::size_t>(index - 1); i < cells_.size(); ++i) {
+      cells_[i]->SetPosition(static_cast<std::int32_t>(i) + 1);
+    }
     newIndex_ = 0;
   });
 }
 
 void CColorboxCol::Clear() {
+  // Removing every cell at once, not one by one from the front: the same outcome
+  // as n calls of Remove(1) without moving the rest of the list n times.
   errors_.Trap(kModule, "Clear", [&] {
-    const std::int32_t n = Count();
-    for (std::int32_t i = 0; i < n; ++i) Remove(1);
+    for (const auto& cell : cells_) cell->SetParent(nullptr);
+    if (!cells_.empty()) newIndex_ = 0;
     cells_.clear();
   });
 }

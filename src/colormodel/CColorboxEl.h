@@ -41,6 +41,8 @@ class CColorboxEl {
   // 1-based position in the parent list, found by identity; 0 when absent. A cell
   // without a parent reports "object not set" and answers 0.
   std::int32_t Index() const;
+  // The list keeps each cell's position up to date, so Index answers without a walk.
+  void SetPosition(std::int32_t position) { position_ = position; }
 
   // "RR,GG,BB" and "#RRGGBB", upper-case. Values outside 0..FFFFFF report an invalid
   // argument under the cell's own name and answer "".
@@ -61,6 +63,7 @@ class CColorboxEl {
   std::int32_t boundBottom_ = 0;
   std::string name_;
   bool isLarge_ = false;
+  std::int32_t position_ = 0;  // beside the flag, where the padding was
   CColorboxCol* parent_ = nullptr;
 };
 

@@ -48,6 +48,21 @@ TEST_F(CellCollection, AddRemoveAndClearKeepOrderIndicesAndParents) {
   EXPECT_TRUE(host.Messages.Shown.empty());
 }
 
+TEST_F(CellCollection, IndexFollowsRemovalsAndIgnoresAParentSetByHand) {
+  for (const char* name : {"a", "b", "c", "d"}) cells.Add(name, 0, 0, 0);
+  const CellPtr last = cells.Item(4);
+  cells.Remove(1);
+  cells.Remove(2);
+  EXPECT_EQ(last->Index(), 2);
+  CColorboxCol other(host.Errors());
+  const CellPtr stranger = other.Add("s", 0, 0, 0);
+  stranger->SetParent(&cells);  // named as a parent, yet not among its cells
+  EXPECT_EQ(stranger->Index(), 0);
+  last->SetParent(&other);
+  EXPECT_EQ(last->Index(), 0);
+  EXPECT_TRUE(host.Messages.Shown.empty());
+}
+
 TEST_F(CellCollection, BadPositionsAndRemovedCellsAreReportedNotThrown) {
   const CellPtr kept = cells.Add("a", 1, 0, 0);
   for (std::int32_t bad : {0, 2, -1}) {
