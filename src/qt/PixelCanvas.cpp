@@ -7,7 +7,12 @@
 
 namespace LumoColorCombo::host {
 
-PixelCanvas::PixelCanvas(QImage& image) : image_(image), ratio_(image.devicePixelRatio()) {}
+// The image is detached once here; the rows are then reached through its bits, not
+// through scanLine, which checks for sharing on every call.
+PixelCanvas::PixelCanvas(QImage& image)
+    : image_(image), ratio_(image.devicePixelRatio()), bits_(image.bits()), stride_(image.bytesPerLine()) {}
+
+QRgb* PixelCanvas::row(int y) const { return reinterpret_cast<QRgb*>(bits_ + static_cast<qsizetype>(y) * stride_); }
 
 int PixelCanvas::toDevice(int logical) const {
   if (ratio_ == 1.0) return logical;
@@ -22,8 +27,8 @@ void PixelCanvas::fillDevice(int x0, int y0, int x1, int y1, QRgb color) {
   if (x0 >= x1 || y0 >= y1) return;
   const QRgb opaque = color | 0xFF000000u;
   for (int y = y0; y < y1; ++y) {
-    auto* row = reinterpret_cast<QRgb*>(image_.scanLine(y));
-    std::fill(row + x0, row + x1, opaque);
+    QRgb* const pixels = row(y);
+    std::fill(pixels + x0, pixels + x1, opaque);
   }
 }
 
@@ -33,8 +38,8 @@ void PixelCanvas::invertDevice(int x0, int y0, int x1, int y1) {
   x1 = std::min(x1, image_.width());
   y1 = std::min(y1, image_.height());
   for (int y = y0; y < y1; ++y) {
-    auto* row = reinterpret_cast<QRgb*>(image_.scanLine(y));
-    for (int x = x0; x < x1; ++x) row[x] ^= 0x00FFFFFFu;
+    QRgb* const pixels = row(y);
+    for (int x = x0; x < x1; ++x) pixels[x] ^= 0x00FFFFFFu;
   }
 }
 

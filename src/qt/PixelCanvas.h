@@ -31,12 +31,15 @@ class PixelCanvas {
 
  private:
   int toDevice(int logical) const;
+  QRgb* row(int y) const;
   void fillDevice(int x0, int y0, int x1, int y1, QRgb color);
   void invertDevice(int x0, int y0, int x1, int y1);
   void straightLine(lumo::Point from, lumo::Point to, QRgb color, int penWidth);
 
   QImage& image_;
   double ratio_;
+  uchar* bits_;
+  qsizetype stride_;
 };
 
 }  // namespace LumoColorCombo::host

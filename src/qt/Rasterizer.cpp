@@ -57,15 +57,31 @@ std::vector<PixelRun> Rasterizer::polygonInterior(const std::vector<lumo::Point>
                                                [](const lumo::Point& a, const lumo::Point& b) { return a.Y < b.Y; });
   const int top = std::max(low->Y, firstRow);
   const int bottom = std::min(high->Y, lastRow);
+  if (top >= bottom) return runs;
+  // The sides that cross any row, each kept in drawing order (from a to b) so that
+  // every crossing is computed exactly as written below; horizontal sides never cross.
+  struct Side {
+    lumo::Point a;
+    lumo::Point b;
+    int first;  // rows first .. last - 1 cross this side: half-open in y, so a vertex
+    int last;   // shared by two sides is counted once
+  };
+  std::vector<Side> sides;
+  sides.reserve(points.size());
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    const lumo::Point& a = points[i];
+    const lumo::Point& b = points[i + 1 < points.size() ? i + 1 : 0];
+    if (a.Y != b.Y) sides.push_back({a, b, std::min(a.Y, b.Y), std::max(a.Y, b.Y)});
+  }
+  runs.reserve(static_cast<std::size_t>(bottom - top));
   std::vector<double> crossings;
+  crossings.reserve(sides.size());
   for (int y = top; y < bottom; ++y) {
     crossings.clear();
-    for (std::size_t i = 0; i < points.size(); ++i) {
-      const lumo::Point& a = points[i];
-      const lumo::Point& b = points[(i + 1) % points.size()];
-      // Half-open in y, so a vertex shared by two edges is counted once and
-      // horizontal edges not at all.
-      if ((a.Y <= y && y < b.Y) || (b.Y <= y && y < a.Y)) {
+    for (const Side& side : sides) {
+      if (side.first <= y && y < side.last) {
+        const lumo::Point& a = side.a;
+        const lumo::Point& b = side.b;
         crossings.push_back(a.X + static_cast<double>(y - a.Y) * (b.X - a.X) / (b.Y - a.Y));
       }
     }

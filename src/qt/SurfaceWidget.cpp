@@ -89,6 +89,8 @@ SurfaceWidget::SurfaceWidget(QWidget* parent) : QWidget(parent), qfont_(qtFont(F
   // Pointer moves without a button feed the controls' hot tracking.
   setMouseTracking(true);
   announcedRatio_ = devicePixelRatioF();
+  ratio_ = announcedRatio_;
+  lineSpacing_ = QFontMetricsF(qfont_).lineSpacing();
   backing();
   // Screen readers see the cells drawn here through the library's interfaces.
   AccessibleFactory::install();
@@ -130,13 +132,37 @@ void SurfaceWidget::Move(std::int32_t left, std::int32_t top, std::int32_t width
 }
 
 QSize SurfaceWidget::deviceSize() const {
-  const qreal ratio = devicePixelRatioF();
-  return {static_cast<int>(std::ceil(width() * ratio)), static_cast<int>(std::ceil(height() * ratio))};
+  return {static_cast<int>(std::ceil(width() * ratio_)), static_cast<int>(std::ceil(height() * ratio_))};
 }
 
 QImage& SurfaceWidget::backing() const {
-  if (image_.size() != deviceSize() || image_.devicePixelRatio() != devicePixelRatioF()) rebuildImage();
+  if (image_.size() != deviceSize() || image_.devicePixelRatio() != ratio_) rebuildImage();
   return image_;
+}
+
+// Asking Qt for the ratio walks to the window and its screen; every primitive needs it,
+// so it is read again only when it can have changed: a new screen, parent or showing,
+// and before each paint (syncDevicePixelRatio).
+void SurfaceWidget::readRatio() { ratio_ = devicePixelRatioF(); }
+
+// The primitives of one event-loop turn add up to one update of the rectangle they
+// touched: repainting the whole widget for each of them would cost more than drawing.
+void SurfaceWidget::damage(const QRect& area) {
+  if (!isVisible()) return;  // showing paints everything anyway
+  if (damage_.isEmpty() && !inMove_) QMetaObject::invokeMethod(this, &SurfaceWidget::flushDamage, Qt::QueuedConnection);
+  damage_ |= area.isEmpty() ? rect() : area;
+}
+
+void SurfaceWidget::flushDamage() {
+  if (!damage_.isEmpty()) update(damage_ & rect());
+  damage_ = QRect();
+}
+
+void SurfaceWidget::damageShape(int left, int top, int right, int bottom) {
+  // A wide pen reaches DrawWidth pixels past the path on every side.
+  const int pen = std::max(1, static_cast<int>(DrawWidth()));
+  damage(QRect(QPoint(std::min(left, right) - pen, std::min(top, bottom) - pen),
+               QPoint(std::max(left, right) + pen, std::max(top, bottom) + pen)));
 }
 
 void SurfaceWidget::rebuildImage() const {
@@ -153,8 +179,9 @@ void SurfaceWidget::rebuildImage() const {
 }
 
 void SurfaceWidget::syncDevicePixelRatio() {
-  if (announcedRatio_ == devicePixelRatioF()) return;
-  announcedRatio_ = devicePixelRatioF();
+  readRatio();
+  if (announcedRatio_ == ratio_) return;
+  announcedRatio_ = ratio_;
   backing();
   update();
   emit devicePixelRatioChanged();
@@ -171,11 +198,12 @@ void SurfaceWidget::paintEvent(QPaintEvent* /*event*/) {
   painter.drawImage(QPointF(0, 0), backing());
 }
 
-void SurfaceWidget::Refresh() { update(); }
+// Everything drawn is already in the image; what is not on screen yet is the damage.
+void SurfaceWidget::Refresh() { flushDamage(); }
 
 void SurfaceWidget::ClearSurface() {
   backing().fill(rgb(BackColor()));
-  update();
+  damage(rect());
 }
 
 void SurfaceWidget::PaintPicture(const lumo::DrawingSurface& source, std::int32_t x, std::int32_t y) {
@@ -185,7 +213,7 @@ void SurfaceWidget::PaintPicture(const lumo::DrawingSurface& source, std::int32_
   const QImage picture = surface->image();
   QPainter painter(&backing());
   painter.drawImage(QPointF(x, y), picture);
-  update();
+  damage(QRect(QPoint(x, y), picture.deviceIndependentSize().toSize() + QSize(1, 1)));
 }
 
 // --- shapes -------------------------------------------------------------------------
@@ -207,7 +235,7 @@ void SurfaceWidget::Rectangle(std::int32_t left, std::int32_t top, std::int32_t 
   // The outline runs through the last column and row inside the rectangle; each side
   // stops short of the next corner, which the next side draws.
   strokePolyline({{left, top}, {right - 1, top}, {right - 1, bottom - 1}, {left, bottom - 1}}, rgb(ForeColor()));
-  update();
+  damageShape(left, top, right, bottom);
 }
 
 void SurfaceWidget::Polygon(const std::vector<lumo::Point>& points) {
@@ -222,12 +250,14 @@ void SurfaceWidget::Polygon(const std::vector<lumo::Point>& points) {
   // Each side leaves out its end point, which is the start of the next side, so every
   // vertex is drawn exactly once.
   strokePolyline(points, rgb(ForeColor()));
-  update();
+  const auto [minX, maxX] = std::minmax_element(points.begin(), points.end(), [](auto a, auto b) { return a.X < b.X; });
+  const auto [minY, maxY] = std::minmax_element(points.begin(), points.end(), [](auto a, auto b) { return a.Y < b.Y; });
+  damageShape(minX->X, minY->Y, maxX->X, maxY->Y);
 }
 
 void SurfaceWidget::DrawLine(lumo::Point from, lumo::Point to) {
   PixelCanvas(backing()).line(from, to, rgb(ForeColor()), DrawWidth());
-  update();
+  damageShape(from.X, from.Y, to.X, to.Y);
 }
 
 void SurfaceWidget::DrawEdge(const lumo::Rect& rect, std::int32_t edgeKind, std::int32_t flags) {
@@ -235,7 +265,7 @@ void SurfaceWidget::DrawEdge(const lumo::Rect& rect, std::int32_t edgeKind, std:
   for (const EdgeStroke& stroke : EdgeStrokes::of(rect, edgeKind, flags)) {
     canvas.line(stroke.From, stroke.To, SystemColors::systemColor(stroke.SystemColorIndex, palette()).rgb(), 1);
   }
-  update();
+  damage(QRect(QPoint(rect.Left - 1, rect.Top - 1), QPoint(rect.Right + 1, rect.Bottom + 1)));
 }
 
 void SurfaceWidget::DrawFocusRect(const lumo::Rect& rect) {
@@ -247,12 +277,15 @@ void SurfaceWidget::DrawFocusRect(const lumo::Rect& rect) {
   canvas.invertCheckerboard(left, bottom - 1, right, bottom);
   canvas.invertCheckerboard(left, top + 1, left + 1, bottom - 1);
   canvas.invertCheckerboard(right - 1, top + 1, right, bottom - 1);
-  update();
+  damage(QRect(QPoint(left - 1, top - 1), QPoint(right + 1, bottom + 1)));
 }
 
 // --- text ---------------------------------------------------------------------------
 
-void SurfaceWidget::FontChanged() { qfont_ = qtFont(Font()); }
+void SurfaceWidget::FontChanged() {
+  qfont_ = qtFont(Font());
+  lineSpacing_ = QFontMetricsF(qfont_).lineSpacing();
+}
 
 double SurfaceWidget::TextWidth(const std::string& text) const {
   const QFontMetricsF metrics(qfont_);
@@ -262,7 +295,10 @@ double SurfaceWidget::TextWidth(const std::string& text) const {
 }
 
 double SurfaceWidget::TextHeight(const std::string& text) const {
-  return QFontMetricsF(qfont_).lineSpacing() * static_cast<double>(Lines(text).size());
+  // One line per LF and one more, as Lines() splits the text; the grids ask for this
+  // for every cell they place.
+  const auto lines = std::count(text.begin(), text.end(), '\n') + 1;
+  return lineSpacing_ * static_cast<double>(lines);
 }
 
 void SurfaceWidget::DrawTextA(const std::string& text, const lumo::Rect& rect, std::int32_t format) {
@@ -274,7 +310,7 @@ void SurfaceWidget::DrawTextA(const std::string& text, const lumo::Rect& rect, s
   painter.setFont(qfont_);
   painter.setPen(resolve(ForeColor()));
   painter.drawText(box, TextFlags(format), QString::fromStdString(text));
-  update();
+  damage(clip ? box.toAlignedRect() : QWidget::rect());
 }
 
 void SurfaceWidget::DrawPrintedText(double x, double y, const std::string& text) {
@@ -288,12 +324,18 @@ void SurfaceWidget::DrawPrintedText(double x, double y, const std::string& text)
     painter.drawText(QPointF(x, baseline), line);
     baseline += metrics.lineSpacing();
   }
-  update();
+  damage(rect());
 }
 
 void SurfaceWidget::ToolTipChanged() {
-  const QString tip = QString::fromStdString(ToolTipText());
-  setToolTip(tip);
+  // A pointer crossing the grid renames the tip on every move; the text reaches Qt only
+  // when Qt asks for it (QEvent::ToolTip), when a tip is up, or when the same text is
+  // assigned again, which is how a control asks for the tip of a resting pointer.
+  const bool again = ToolTipText() == tipGiven_;
+  tipGiven_ = ToolTipText();
+  tipPending_ = true;
+  if (!again && !QToolTip::isVisible()) return;
+  const QString tip = takeToolTip();
   const QPoint pointer = QCursor::pos();
   if (!isVisible() || !rect().contains(mapFromGlobal(pointer))) return;
   // Assigned while the pointer rests here: show it now, even if the text is unchanged
@@ -303,6 +345,14 @@ void SurfaceWidget::ToolTipChanged() {
   } else {
     QToolTip::showText(pointer, tip, this);
   }
+}
+
+QString SurfaceWidget::takeToolTip() {
+  if (tipPending_) {
+    setToolTip(QString::fromStdString(tipGiven_));
+    tipPending_ = false;
+  }
+  return toolTip();
 }
 
 // --- input --------------------------------------------------------------------------
@@ -318,8 +368,15 @@ void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
   if (Listener() == nullptr) return;
+  // What a move draws is handed to Qt as the move ends, with no flush posted: moves come
+  // in streams, and each posted event wakes the event loop once more.
+  const QPointer<SurfaceWidget> self(this);
+  inMove_ = true;
   Listener()->MouseMove(ButtonMask(event->buttons()), VirtualKeys::shiftState(event->modifiers()),
                         event->position().x(), event->position().y());
+  if (!self) return;
+  inMove_ = false;
+  flushDamage();
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -410,6 +467,13 @@ bool SurfaceWidget::event(QEvent* event) {
     }
     case QEvent::ScreenChangeInternal:
       syncDevicePixelRatio();
+      break;
+    case QEvent::ParentChange:
+    case QEvent::Show:
+      readRatio();
+      break;
+    case QEvent::ToolTip:
+      takeToolTip();
       break;
     default:
       break;

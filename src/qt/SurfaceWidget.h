@@ -99,14 +99,28 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   QImage& backing() const;
   QSize deviceSize() const;
   void rebuildImage() const;
+  void readRatio();
+  // Logical pixels changed since the last flush; an empty rectangle means all of them.
+  void damage(const QRect& area);
+  void damageShape(int left, int top, int right, int bottom);
+  void flushDamage();
   void syncDevicePixelRatio();
   void strokePolyline(const std::vector<lumo::Point>& points, QRgb color);
+  // The tip text last assigned, handed to QWidget::setToolTip first if it is new.
+  QString takeToolTip();
   bool deliverKey(QKeyEvent* event);
   static bool isNavigationKey(int qtKey);
 
   mutable QImage image_;
+  qreal ratio_ = 1.0;  // the widget's device pixel ratio, read when it can change
+  QRect damage_;
+  bool inMove_ = false;  // a pointer move is being handled; it flushes the damage itself
+  qreal lineSpacing_ = 0;  // of qfont_
   qreal announcedRatio_ = 1.0;
   QFont qfont_;
+  // The tip text as last assigned, and whether QWidget's copy still lags behind it.
+  std::string tipGiven_;
+  bool tipPending_ = false;
 };
 
 }  // namespace LumoColorCombo::host

@@ -8,7 +8,8 @@ namespace LumoColorCombo::host {
 
 // Window handles as the core sees them: the widget's address. A handle is turned back
 // into a widget only by finding it among the widgets Qt knows to be alive, so a handle
-// kept past its widget's deletion resolves to null instead of a dangling pointer.
+// kept past its widget's deletion resolves to null instead of a dangling pointer. A
+// handle once resolved is remembered with a guard, so resolving it again is a lookup.
 class WidgetHandles {
  public:
   static lumo::WindowHandle handleOf(const QWidget* widget);
