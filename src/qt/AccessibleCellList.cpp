@@ -1,14 +1,13 @@
 #include "qt/AccessibleCellList.h"
 
-#include <utility>
-
 #include "qt/AccessibleCell.h"
+#include "qt/AccessibleColorGrid.h"
+#include "qt/AccessibleColorHexagon.h"
 #include "qt/SurfaceWidget.h"
 
 namespace LumoColorCombo::host {
 
-AccessibleCellList::AccessibleCellList(SurfaceWidget* surface, QString fallbackName)
-    : QAccessibleWidget(surface, QAccessible::List), fallbackName_(std::move(fallbackName)) {}
+AccessibleCellList::AccessibleCellList(SurfaceWidget* surface) : QAccessibleWidget(surface, QAccessible::List) {}
 
 AccessibleCellList::~AccessibleCellList() {
   for (const QAccessible::Id id : children_) {
@@ -16,15 +15,42 @@ AccessibleCellList::~AccessibleCellList() {
   }
 }
 
+const AccessibleCellSource* AccessibleCellList::source() const {
+  static const AccessibleColorGrid grid;
+  static const AccessibleColorHexagon honeycomb;
+  for (const AccessibleCellSource* kind : {static_cast<const AccessibleCellSource*>(&grid),
+                                           static_cast<const AccessibleCellSource*>(&honeycomb)}) {
+    if (kind->serves(*surface())) return kind;
+  }
+  return nullptr;
+}
+
 SurfaceWidget* AccessibleCellList::surface() const { return static_cast<SurfaceWidget*>(widget()); }
 
+int AccessibleCellList::itemCount() const {
+  const AccessibleCellSource* kind = source();
+  return kind != nullptr ? kind->itemCount(*surface()) : 0;
+}
+
+AccessibleItem AccessibleCellList::item(int index) const {
+  const AccessibleCellSource* kind = source();
+  return kind != nullptr ? kind->item(*surface(), index) : AccessibleItem{};
+}
+
+void AccessibleCellList::press(int index) {
+  if (const AccessibleCellSource* kind = source()) kind->press(*surface(), index);
+}
+
+QAccessible::Role AccessibleCellList::role() const { return source() != nullptr ? QAccessible::List : QAccessible::Client; }
+
 QString AccessibleCellList::text(QAccessible::Text t) const {
-  if (t != QAccessible::Name) return QAccessibleWidget::text(t);
+  const AccessibleCellSource* kind = source();
+  if (t != QAccessible::Name || kind == nullptr) return QAccessibleWidget::text(t);
   // The surface carries no name of its own: the control's name is the list's.
   if (!widget()->accessibleName().isEmpty()) return widget()->accessibleName();
   const QWidget* owner = widget()->parentWidget();
   if (owner != nullptr && !owner->accessibleName().isEmpty()) return owner->accessibleName();
-  return fallbackName_;
+  return kind->fallbackName();
 }
 
 int AccessibleCellList::childCount() const { return itemCount(); }
@@ -72,7 +98,8 @@ void AccessibleCellList::announceMove(int before) {
   QAccessibleEvent focus(widget(), QAccessible::Focus);
   focus.setChild(now);
   QAccessible::updateAccessibility(&focus);
-  if (!keysSelect()) return;
+  const AccessibleCellSource* kind = source();
+  if (kind == nullptr || !kind->keysSelect()) return;
   QAccessibleEvent selection(widget(), QAccessible::Selection);
   selection.setChild(now);
   QAccessible::updateAccessibility(&selection);

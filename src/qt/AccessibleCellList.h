@@ -1,54 +1,39 @@
 #pragma once
 
 #include <QAccessibleWidget>
-#include <QRect>
-#include <QString>
 
 #include <vector>
 
+#include "qt/AccessibleCellSource.h"
+
 namespace LumoColorCombo::host {
 
-class SurfaceWidget;
-
-// What a screen reader learns about one item of a control's surface: a colour cell or
-// a button. The rectangle is in surface pixels.
-struct AccessibleItem {
-  QString name;
-  QString description;
-  QAccessible::Role role = QAccessible::ListItem;
-  QRect rect;
-  bool focused = false;   // where the keyboard is in the control (Enter acts there)
-  bool selected = false;  // carries the selection mark
-};
-
-// A drawing surface seen as a list of items (cells and buttons), which the control
-// draws itself and Qt cannot see. Subclasses read the items from the control behind
-// the surface on every call, so a reloaded palette is never stale. The items'
-// interfaces are made once per index and kept until this interface goes.
+// Any drawing surface as a screen reader sees it. A grid's or a honeycomb's surface is a
+// list of the items its control draws, which Qt cannot see; any other surface is a
+// plain client area. Which it is, is asked of the surface's control on every call: Qt
+// may make this interface before the control is attached (a form's children are), and
+// keeps it. The items' interfaces are made once per index and kept until this goes.
 class AccessibleCellList : public QAccessibleWidget {
  public:
-  AccessibleCellList(SurfaceWidget* surface, QString fallbackName);
+  explicit AccessibleCellList(SurfaceWidget* surface);
   ~AccessibleCellList() override;
   AccessibleCellList(const AccessibleCellList&) = delete;
   AccessibleCellList& operator=(const AccessibleCellList&) = delete;
 
-  virtual int itemCount() const = 0;
-  virtual AccessibleItem item(int index) const = 0;
-  // Chooses the item through the control's own input procedures.
-  virtual void press(int index) = 0;
-  // Whether a key that moves the keyboard also moves the selection.
-  virtual bool keysSelect() const { return false; }
+  SurfaceWidget* surface() const;
+  int itemCount() const;
+  AccessibleItem item(int index) const;
+  void press(int index);
 
   // The item the keyboard is on, or -1.
   int focusedItem() const;
-  // The surface's item list while a screen reader listens, else null (then nothing is
-  // worth computing).
+  // The surface's list while a screen reader listens, else null (then nothing is worth
+  // computing).
   static AccessibleCellList* listening(QWidget* surface);
   // Tells the reader where a key moved the keyboard, if it moved from `before`.
   void announceMove(int before);
 
-  SurfaceWidget* surface() const;
-
+  QAccessible::Role role() const override;
   QString text(QAccessible::Text t) const override;
   int childCount() const override;
   QAccessibleInterface* child(int index) const override;
@@ -57,7 +42,9 @@ class AccessibleCellList : public QAccessibleWidget {
   QAccessibleInterface* focusChild() const override;
 
  private:
-  QString fallbackName_;
+  // The items' kind for the surface's control now, or null.
+  const AccessibleCellSource* source() const;
+
   mutable std::vector<QAccessible::Id> children_;
 };
 

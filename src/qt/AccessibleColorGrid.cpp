@@ -1,6 +1,7 @@
 #include "qt/AccessibleColorGrid.h"
 
 #include <QPointer>
+#include <QWidget>
 
 #include "colorbox/ColorBox.h"
 #include "colorbox/ColorBoxKeyboard.h"
@@ -16,39 +17,34 @@ QRect Area(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t
 
 }  // namespace
 
-AccessibleColorGrid::AccessibleColorGrid(SurfaceWidget* surface)
-    : AccessibleCellList(surface, QWidget::tr("Colour palette")) {}
+QString AccessibleColorGrid::fallbackName() const { return QWidget::tr("Colour palette"); }
 
-lumo::ColorBox* AccessibleColorGrid::gridOf(const SurfaceWidget* surface) {
-  return dynamic_cast<lumo::ColorBox*>(surface->Listener());
+lumo::ColorBox* AccessibleColorGrid::gridOf(const SurfaceWidget& surface) {
+  return dynamic_cast<lumo::ColorBox*>(surface.Listener());
 }
 
-bool AccessibleColorGrid::hasAutomatic() const { return grid() != nullptr && grid()->AllowAutomatic(); }
-
-bool AccessibleColorGrid::hasMoreColors() const { return grid() != nullptr && grid()->AllowMoreColors(); }
-
-int AccessibleColorGrid::cellCount() const {
-  const lumo::CColorboxCol* cells = grid() != nullptr ? grid()->Cells() : nullptr;
-  return cells != nullptr ? cells->Count() : 0;
+int AccessibleColorGrid::cellCount(const lumo::ColorBox& box) {
+  return box.Cells() != nullptr ? box.Cells()->Count() : 0;
 }
 
-int AccessibleColorGrid::itemCount() const {
-  return (hasAutomatic() ? 1 : 0) + cellCount() + (hasMoreColors() ? 1 : 0);
+int AccessibleColorGrid::itemCount(const SurfaceWidget& surface) const {
+  const lumo::ColorBox* box = gridOf(surface);
+  if (box == nullptr) return 0;
+  return (box->AllowAutomatic() ? 1 : 0) + cellCount(*box) + (box->AllowMoreColors() ? 1 : 0);
 }
 
-AccessibleItem AccessibleColorGrid::item(int index) const {
-  const lumo::ColorBox* box = grid();
-  if (box == nullptr || index < 0 || index >= itemCount()) return {};
-  if (hasAutomatic() && index == 0) {
+AccessibleItem AccessibleColorGrid::item(const SurfaceWidget& surface, int index) const {
+  const lumo::ColorBox* box = gridOf(surface);
+  if (box == nullptr || index < 0 || index >= itemCount(surface)) return {};
+  if (box->AllowAutomatic() && index == 0) {
     return buttonItem(box->AutomaticText(), box->FocusZone() == lumo::focuszone::Automatic, box->AutoRect());
   }
-  const int cellIndex = index + (hasAutomatic() ? 0 : 1);  // the cells count from 1
-  if (cellIndex <= cellCount()) return cellItem(cellIndex);
+  const int cellIndex = index + (box->AllowAutomatic() ? 0 : 1);  // the cells count from 1
+  if (cellIndex <= cellCount(*box)) return cellItem(*box, cellIndex);
   return buttonItem(box->MoreColorsText(), box->FocusZone() == lumo::focuszone::MoreColors, box->MoreRect());
 }
 
-AccessibleItem AccessibleColorGrid::cellItem(int cellIndex) const {
-  const lumo::ColorBox& box = *grid();
+AccessibleItem AccessibleColorGrid::cellItem(const lumo::ColorBox& box, int cellIndex) {
   const lumo::CellPtr cell = box.Cells()->Item(cellIndex);
   if (!cell) return {};
   AccessibleItem result;
@@ -66,8 +62,7 @@ AccessibleItem AccessibleColorGrid::cellItem(int cellIndex) const {
   return result;
 }
 
-AccessibleItem AccessibleColorGrid::buttonItem(const std::string& caption, bool focused,
-                                               const lumo::Rect& bounds) const {
+AccessibleItem AccessibleColorGrid::buttonItem(const std::string& caption, bool focused, const lumo::Rect& bounds) {
   AccessibleItem result;
   result.name = QString::fromStdString(caption);
   result.role = QAccessible::PushButton;
@@ -76,18 +71,18 @@ AccessibleItem AccessibleColorGrid::buttonItem(const std::string& caption, bool 
   return result;
 }
 
-void AccessibleColorGrid::press(int index) {
+void AccessibleColorGrid::press(SurfaceWidget& surface, int index) const {
   // A left press and release on the item, through the grid's own mouse procedures: the
   // same choice Enter makes there (ChooseCell, Automatic's Click, MoreColorClick), with
   // the same events, and no hot tracking or capture on the way.
-  lumo::ColorBox* box = grid();
+  lumo::ColorBox* box = gridOf(surface);
   if (box == nullptr) return;
-  const QPoint centre = item(index).rect.center();
-  const QPointer<SurfaceWidget> alive(surface());
+  const QPoint centre = item(surface, index).rect.center();
+  const QPointer<SurfaceWidget> alive(&surface);
   box->MouseDown(lumo::mouse::Left, 0, centre.x(), centre.y());
   // A handler may have replaced or deleted the control in between.
-  if (alive && grid() == box) box->MouseUp(lumo::mouse::Left, 0, centre.x(), centre.y());
-  if (alive) surface()->update();
+  if (alive && gridOf(surface) == box) box->MouseUp(lumo::mouse::Left, 0, centre.x(), centre.y());
+  if (alive) surface.update();
 }
 
 }  // namespace LumoColorCombo::host

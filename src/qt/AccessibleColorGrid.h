@@ -3,7 +3,7 @@
 #include <string>
 
 #include "colormodel/Geometry.h"
-#include "qt/AccessibleCellList.h"
+#include "qt/AccessibleCellSource.h"
 
 namespace lumo {
 class ColorBox;
@@ -11,29 +11,23 @@ class ColorBox;
 
 namespace LumoColorCombo::host {
 
-// The palette grid's surface as a list: the Automatic button (when offered), the cells
-// in the control's order, the More Colors button (when offered); the order the Right
-// arrow walks. Names are the cells' tooltip texts and the buttons' captions; the
-// focused item is where Enter would act. The grid may be a ColorBox widget's or the
-// one in a combo's drop-down.
-class AccessibleColorGrid : public AccessibleCellList {
+// The palette grid's items: the Automatic button (when offered), the cells in the
+// control's order, the More Colors button (when offered); the order the Right arrow
+// walks. Names are the cells' tooltip texts and the buttons' captions; the focused item
+// is where Enter would act. The grid may be a ColorBox widget's or a combo drop-down's.
+class AccessibleColorGrid : public AccessibleCellSource {
  public:
-  explicit AccessibleColorGrid(SurfaceWidget* surface);
-
-  // The grid control behind a surface, or null.
-  static lumo::ColorBox* gridOf(const SurfaceWidget* surface);
-
-  int itemCount() const override;
-  AccessibleItem item(int index) const override;
-  void press(int index) override;
+  bool serves(const SurfaceWidget& surface) const override { return gridOf(surface) != nullptr; }
+  QString fallbackName() const override;
+  int itemCount(const SurfaceWidget& surface) const override;
+  AccessibleItem item(const SurfaceWidget& surface, int index) const override;
+  void press(SurfaceWidget& surface, int index) const override;
 
  private:
-  lumo::ColorBox* grid() const { return gridOf(surface()); }
-  bool hasAutomatic() const;
-  bool hasMoreColors() const;
-  int cellCount() const;
-  AccessibleItem cellItem(int cellIndex) const;
-  AccessibleItem buttonItem(const std::string& caption, bool focused, const lumo::Rect& bounds) const;
+  static lumo::ColorBox* gridOf(const SurfaceWidget& surface);
+  static int cellCount(const lumo::ColorBox& box);
+  static AccessibleItem cellItem(const lumo::ColorBox& box, int cellIndex);
+  static AccessibleItem buttonItem(const std::string& caption, bool focused, const lumo::Rect& bounds);
 };
 
 }  // namespace LumoColorCombo::host

@@ -1,27 +1,27 @@
 #include "qt/AccessibleColorHexagon.h"
 
 #include <QPointer>
+#include <QWidget>
 
 #include "colorhexagon/ColorHexagon.h"
 #include "qt/SurfaceWidget.h"
 
 namespace LumoColorCombo::host {
 
-AccessibleColorHexagon::AccessibleColorHexagon(SurfaceWidget* surface)
-    : AccessibleCellList(surface, QWidget::tr("Honeycomb colour picker")) {}
+QString AccessibleColorHexagon::fallbackName() const { return QWidget::tr("Honeycomb colour picker"); }
 
-lumo::ColorHexagon* AccessibleColorHexagon::hexagonOf(const SurfaceWidget* surface) {
-  return dynamic_cast<lumo::ColorHexagon*>(surface->Listener());
+lumo::ColorHexagon* AccessibleColorHexagon::hexagonOf(const SurfaceWidget& surface) {
+  return dynamic_cast<lumo::ColorHexagon*>(surface.Listener());
 }
 
-int AccessibleColorHexagon::itemCount() const {
-  const lumo::CColorboxCol* cells = hexagon() != nullptr ? hexagon()->Cells() : nullptr;
-  return cells != nullptr ? cells->Count() : 0;
+int AccessibleColorHexagon::itemCount(const SurfaceWidget& surface) const {
+  const lumo::ColorHexagon* control = hexagonOf(surface);
+  return control != nullptr && control->Cells() != nullptr ? control->Cells()->Count() : 0;
 }
 
-AccessibleItem AccessibleColorHexagon::item(int index) const {
-  if (index < 0 || index >= itemCount()) return {};
-  const lumo::ColorHexagon& control = *hexagon();
+AccessibleItem AccessibleColorHexagon::item(const SurfaceWidget& surface, int index) const {
+  if (index < 0 || index >= itemCount(surface)) return {};
+  const lumo::ColorHexagon& control = *hexagonOf(surface);
   const lumo::CellPtr cell = control.Cells()->Item(index + 1);
   if (!cell) return {};
   AccessibleItem result;
@@ -33,15 +33,15 @@ AccessibleItem AccessibleColorHexagon::item(int index) const {
   return result;
 }
 
-void AccessibleColorHexagon::press(int index) {
+void AccessibleColorHexagon::press(SurfaceWidget& surface, int index) const {
   // A left click on the cell through the control's own mouse procedures: the same
   // selection, ColorChanged and ColorClick as a click with the mouse.
-  lumo::ColorHexagon* control = hexagon();
+  lumo::ColorHexagon* control = hexagonOf(surface);
   if (control == nullptr) return;
-  const QPoint centre = item(index).rect.center();
-  const QPointer<SurfaceWidget> alive(surface());
+  const QPoint centre = item(surface, index).rect.center();
+  const QPointer<SurfaceWidget> alive(&surface);
   control->MouseDown(lumo::mouse::Left, 0, centre.x(), centre.y());
-  if (alive && hexagon() == control) control->MouseUp(lumo::mouse::Left, 0, centre.x(), centre.y());
+  if (alive && hexagonOf(surface) == control) control->MouseUp(lumo::mouse::Left, 0, centre.x(), centre.y());
 }
 
 }  // namespace LumoColorCombo::host

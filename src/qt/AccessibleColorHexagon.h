@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/AccessibleCellList.h"
+#include "qt/AccessibleCellSource.h"
 
 namespace lumo {
 class ColorHexagon;
@@ -8,23 +8,20 @@ class ColorHexagon;
 
 namespace LumoColorCombo::host {
 
-// The honeycomb's surface as a list of its cells, in the control's order. Names are
-// the tooltips the cells show under the pointer; the arrow keys move the selection, so
-// the selected cell is also the focused one.
-class AccessibleColorHexagon : public AccessibleCellList {
+// The honeycomb's items: its cells in the control's order, named by the tooltips they
+// show under the pointer. The arrow keys move the selection, so the selected cell is
+// also the focused one.
+class AccessibleColorHexagon : public AccessibleCellSource {
  public:
-  explicit AccessibleColorHexagon(SurfaceWidget* surface);
-
-  // The honeycomb control behind a surface, or null.
-  static lumo::ColorHexagon* hexagonOf(const SurfaceWidget* surface);
-
-  int itemCount() const override;
-  AccessibleItem item(int index) const override;
-  void press(int index) override;
+  bool serves(const SurfaceWidget& surface) const override { return hexagonOf(surface) != nullptr; }
+  QString fallbackName() const override;
+  int itemCount(const SurfaceWidget& surface) const override;
+  AccessibleItem item(const SurfaceWidget& surface, int index) const override;
+  void press(SurfaceWidget& surface, int index) const override;
   bool keysSelect() const override { return true; }
 
  private:
-  lumo::ColorHexagon* hexagon() const { return hexagonOf(surface()); }
+  static lumo::ColorHexagon* hexagonOf(const SurfaceWidget& surface);
 };
 
 }  // namespace LumoColorCombo::host

@@ -4,9 +4,8 @@
 
 #include <LumoColorCombo/ColorCombo.h>
 
+#include "qt/AccessibleCellList.h"
 #include "qt/AccessibleColorCombo.h"
-#include "qt/AccessibleColorGrid.h"
-#include "qt/AccessibleColorHexagon.h"
 #include "qt/SurfaceWidget.h"
 
 namespace LumoColorCombo::host {
@@ -22,10 +21,7 @@ void AccessibleFactory::install() {
 QAccessibleInterface* AccessibleFactory::create(const QString& key, QObject* object) {
   // Qt asks with each class name of the object's chain, most derived first.
   if (key == QLatin1String(SurfaceWidget::staticMetaObject.className())) {
-    auto* surface = static_cast<SurfaceWidget*>(object);
-    if (AccessibleColorGrid::gridOf(surface) != nullptr) return new AccessibleColorGrid(surface);
-    if (AccessibleColorHexagon::hexagonOf(surface) != nullptr) return new AccessibleColorHexagon(surface);
-    return nullptr;
+    return new AccessibleCellList(static_cast<SurfaceWidget*>(object));
   }
   if (key == QLatin1String(ColorCombo::staticMetaObject.className())) {
     return new AccessibleColorCombo(static_cast<ColorCombo*>(object));
