@@ -52,8 +52,12 @@ SamplePage::SamplePage(EventLog* log, QWidget* parent)
 QWidget* SamplePage::buildPickers() {
   auto* preview = new QGroupBox(tr("Preview"), this);
   auto* row = new QHBoxLayout(preview);
-  row->addWidget(addPicker(tr("Text colour"), kWindowText, sample_->ForeColor(), &ColorSample::setForeColor), 0, Qt::AlignTop);
-  row->addWidget(addPicker(tr("Background"), kWindow, sample_->BackColor(), &ColorSample::setBackColor), 0, Qt::AlignTop);
+  row->addWidget(addPicker(tr("Text colour"), kWindowText, sample_->ForeColor(),
+                           [this](OLE_COLOR color) { sample_->setForeColor(color); }),
+                 0, Qt::AlignTop);
+  row->addWidget(addPicker(tr("Background"), kWindow, sample_->BackColor(),
+                           [this](OLE_COLOR color) { sample_->setBackColor(color); }),
+                 0, Qt::AlignTop);
   row->addSpacing(16);
   row->addWidget(sample_, 0, Qt::AlignVCenter);
   row->addStretch();
@@ -61,7 +65,7 @@ QWidget* SamplePage::buildPickers() {
 }
 
 QWidget* SamplePage::addPicker(const QString& name, OLE_COLOR automatic, OLE_COLOR initial,
-                               void (ColorSample::*apply)(OLE_COLOR)) {
+                               const std::function<void(OLE_COLOR)>& apply) {
   auto* frame = new QGroupBox(name, this);
   auto* combo = new ColorCombo(frame);
   combo->setObjectName(name);
@@ -73,8 +77,8 @@ QWidget* SamplePage::addPicker(const QString& name, OLE_COLOR automatic, OLE_COL
   (new QVBoxLayout(frame))->addWidget(combo, 0, Qt::AlignTop);
   // Every way a drop-down ends (a pick, the dialog, a cancel) ends with AfterDropUp; the
   // combo then holds what the sample should show.
-  connect(combo, &ColorCombo::AfterDropUp, this, [this, combo, apply] {
-    (sample_->*apply)(combo->IsAutomatic() ? combo->AutoColor() : combo->Color());
+  connect(combo, &ColorCombo::AfterDropUp, this, [combo, apply] {
+    apply(combo->IsAutomatic() ? combo->AutoColor() : combo->Color());
   });
   return frame;
 }

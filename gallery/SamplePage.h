@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
@@ -30,7 +32,7 @@ class SamplePage : public QWidget {
   QWidget* buildSettings();
   // A grid whose picks go to the sample through `apply`; its Automatic gives `automatic`.
   QWidget* addPicker(const QString& name, LumoColorCombo::OLE_COLOR automatic, LumoColorCombo::OLE_COLOR initial,
-                     void (LumoColorCombo::ColorSample::*apply)(LumoColorCombo::OLE_COLOR));
+                     const std::function<void(LumoColorCombo::OLE_COLOR)>& apply);
   void applyFont();
 
   EventLog* log_;
