@@ -41,7 +41,9 @@ void AccessibleCellList::press(int index) {
   if (const AccessibleCellSource* kind = source()) kind->press(*surface(), index);
 }
 
-QAccessible::Role AccessibleCellList::role() const { return source() != nullptr ? QAccessible::List : QAccessible::Client; }
+QAccessible::Role AccessibleCellList::role() const {
+  return source() != nullptr ? QAccessible::List : QAccessible::Client;
+}
 
 QString AccessibleCellList::text(QAccessible::Text t) const {
   const AccessibleCellSource* kind = source();
@@ -59,7 +61,9 @@ QAccessibleInterface* AccessibleCellList::child(int index) const {
   if (index < 0 || index >= itemCount()) return nullptr;
   if (children_.size() <= static_cast<std::size_t>(index)) children_.resize(index + 1, 0);
   QAccessible::Id& id = children_[index];
-  if (id == 0) id = QAccessible::registerAccessibleInterface(new AccessibleCell(const_cast<AccessibleCellList*>(this), index));
+  if (id == 0) {
+    id = QAccessible::registerAccessibleInterface(new AccessibleCell(const_cast<AccessibleCellList*>(this), index));
+  }
   return QAccessible::accessibleInterface(id);
 }
 
