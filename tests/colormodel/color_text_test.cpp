@@ -69,12 +69,5 @@ INSTANTIATE_TEST_SUITE_P(Texts, IsColor,
                                            IsColorCase{"GG", "0", "0", false}, IsColorCase{"0", "0", "G", false},
                                            IsColorCase{"123456789", "0", "0", false}));
 
-TEST(IsLongValue, AnyConversionFailureIsFalse) {
-  EXPECT_TRUE(Globals::IsLongValue("&hFFFFFFFF"));
-  EXPECT_FALSE(Globals::IsLongValue("&h"));
-  EXPECT_FALSE(Globals::IsLongValue("&h1FFFFFFFF"));
-  EXPECT_FALSE(Globals::IsLongValue("&hXY"));
-}
-
 }  // namespace
 }  // namespace lumo
