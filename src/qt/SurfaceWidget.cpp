@@ -150,12 +150,15 @@ void SurfaceWidget::readRatio() { ratio_ = devicePixelRatioF(); }
 void SurfaceWidget::damage(const QRect& area) {
   if (!isVisible()) return;  // showing paints everything anyway
   if (damage_.isEmpty() && !inMove_) QMetaObject::invokeMethod(this, &SurfaceWidget::flushDamage, Qt::QueuedConnection);
-  damage_ |= area.isEmpty() ? rect() : area;
+  // A region, not one bounding rectangle: a hover repaints two cells and the two
+  // buttons, far apart, and the paint copies only what the region covers.
+  // Clipped first, so that after a clear every shape lies inside the region it adds to.
+  damage_ += area.isEmpty() ? rect() : area & rect();
 }
 
 void SurfaceWidget::flushDamage() {
-  if (!damage_.isEmpty()) update(damage_ & rect());
-  damage_ = QRect();
+  if (!damage_.isEmpty()) update(damage_);
+  damage_ = QRegion();
 }
 
 void SurfaceWidget::damageShape(int left, int top, int right, int bottom) {

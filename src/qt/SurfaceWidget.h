@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QRegion>
 #include <QWidget>
 
 #include "colormodel/DrawingSurface.h"
@@ -113,7 +114,7 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
 
   mutable QImage image_;
   qreal ratio_ = 1.0;  // the widget's device pixel ratio, read when it can change
-  QRect damage_;
+  QRegion damage_;
   bool inMove_ = false;  // a pointer move is being handled; it flushes the damage itself
   qreal lineSpacing_ = 0;  // of qfont_
   qreal announcedRatio_ = 1.0;
