@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/Runtime.h>
 #include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
@@ -35,7 +36,7 @@ class LUMOCOLORCOMBO_EXPORT ColorBox : public QWidget {
   explicit ColorBox(QWidget* parent = nullptr);
   // With a runtime of its own instead of the application's default one (the default
   // constructor's): a test, or a part of an application kept apart from the rest.
-  ColorBox(host::QtHost& host, QWidget* parent);
+  ColorBox(Runtime& runtime, QWidget* parent);
   ~ColorBox() override;
 
   ComboPickStyles PickStyle() const;
@@ -79,6 +80,8 @@ class LUMOCOLORCOMBO_EXPORT ColorBox : public QWidget {
   void propertyChanged(const QString& name);
 
  private:
+  ColorBox(host::QtHost& host, QWidget* parent);
+
   class Private;
   std::unique_ptr<Private> const d;
 };

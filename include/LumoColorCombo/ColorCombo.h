@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/Runtime.h>
 #include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
@@ -54,7 +55,7 @@ class LUMOCOLORCOMBO_EXPORT ColorCombo : public QWidget {
   explicit ColorCombo(QWidget* parent = nullptr);
   // With a runtime of its own instead of the application's default one (the default
   // constructor's): a test, or a part of an application kept apart from the rest.
-  ColorCombo(host::QtHost& host, QWidget* parent);
+  ColorCombo(Runtime& runtime, QWidget* parent);
   ~ColorCombo() override;
 
   bool AllowHotTracking() const;
@@ -143,6 +144,8 @@ class LUMOCOLORCOMBO_EXPORT ColorCombo : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  ColorCombo(host::QtHost& host, QWidget* parent);
+
   class Private;
   std::unique_ptr<Private> const d;
 };

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/Runtime.h>
 #include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
@@ -31,7 +32,7 @@ class LUMOCOLORCOMBO_EXPORT ColorHexagon : public QWidget {
   explicit ColorHexagon(QWidget* parent = nullptr);
   // With a runtime of its own instead of the application's default one (the default
   // constructor's): a test, or a part of an application kept apart from the rest.
-  ColorHexagon(host::QtHost& host, QWidget* parent);
+  ColorHexagon(Runtime& runtime, QWidget* parent);
   ~ColorHexagon() override;
 
   OLE_COLOR BackColor() const;
@@ -66,6 +67,8 @@ class LUMOCOLORCOMBO_EXPORT ColorHexagon : public QWidget {
                  qint32 X, qint32 Y);
 
  private:
+  ColorHexagon(host::QtHost& host, QWidget* parent);
+
   class Private;
   std::unique_ptr<Private> const d;
 };

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/Runtime.h>
 #include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
@@ -33,7 +34,7 @@ class LUMOCOLORCOMBO_EXPORT ColorSample : public QWidget {
   explicit ColorSample(QWidget* parent = nullptr);
   // With a runtime of its own instead of the application's default one (the default
   // constructor's): a test, or a part of an application kept apart from the rest.
-  ColorSample(host::QtHost& host, QWidget* parent);
+  ColorSample(Runtime& runtime, QWidget* parent);
   ~ColorSample() override;
 
   // Runs the library's About box modally over this widget's window.
@@ -69,6 +70,8 @@ class LUMOCOLORCOMBO_EXPORT ColorSample : public QWidget {
   void propertyChanged(const QString& name);
 
  private:
+  ColorSample(host::QtHost& host, QWidget* parent);
+
   class Private;
   std::unique_ptr<Private> const d;
 };

@@ -5,6 +5,7 @@
 #include <QVariantList>
 
 #include <LumoColorCombo/LumoColorCombo.h>
+#include <LumoColorCombo/Runtime.h>
 #include <LumoColorCombo/lumocolorcombo_export.h>
 
 namespace LumoColorCombo {
@@ -32,7 +33,7 @@ class LUMOCOLORCOMBO_EXPORT MoreColorsDialog : public QObject {
  public:
   explicit MoreColorsDialog(QObject* parent = nullptr);
   // With a runtime of its own instead of the application's default one.
-  MoreColorsDialog(host::QtHost& host, QObject* parent);
+  MoreColorsDialog(Runtime& runtime, QObject* parent);
 
   void setAllowAutomatic(bool allow) { allowAutomatic_ = allow; }
   void setAutomaticText(const QString& text) { automaticText_ = text; }
@@ -49,6 +50,8 @@ class LUMOCOLORCOMBO_EXPORT MoreColorsDialog : public QObject {
   static QVariantList popupResult();
 
  private:
+  MoreColorsDialog(host::QtHost& host, QObject* parent);
+
   host::QtHost* host_;
   bool allowAutomatic_ = true;
   QString automaticText_ = QStringLiteral("Automatic");

@@ -57,6 +57,8 @@ class ColorBox::Private {
 
 ColorBox::ColorBox(QWidget* parent) : ColorBox(host::QtHost::instance(), parent) {}
 
+ColorBox::ColorBox(Runtime& runtime, QWidget* parent) : ColorBox(runtime.host(), parent) {}
+
 ColorBox::ColorBox(host::QtHost& host, QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(this, host)) {
   setFocusProxy(d->picScreen);
   setFocusPolicy(Qt::StrongFocus);

@@ -125,6 +125,8 @@ class ColorCombo::Private {
 
 ColorCombo::ColorCombo(QWidget* parent) : ColorCombo(host::QtHost::instance(), parent) {}
 
+ColorCombo::ColorCombo(Runtime& runtime, QWidget* parent) : ColorCombo(runtime.host(), parent) {}
+
 ColorCombo::ColorCombo(host::QtHost& host, QWidget* parent)
     : QWidget(parent), d(std::make_unique<Private>(this, host)) {
   setFocusProxy(d->picScreen);

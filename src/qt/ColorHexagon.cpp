@@ -71,6 +71,8 @@ class ColorHexagon::Private {
 
 ColorHexagon::ColorHexagon(QWidget* parent) : ColorHexagon(host::QtHost::instance(), parent) {}
 
+ColorHexagon::ColorHexagon(Runtime& runtime, QWidget* parent) : ColorHexagon(runtime.host(), parent) {}
+
 ColorHexagon::ColorHexagon(host::QtHost& host, QWidget* parent)
     : QWidget(parent), d(std::make_unique<Private>(this, host)) {
   setFocusProxy(d->picScreen);

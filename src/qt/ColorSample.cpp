@@ -38,6 +38,8 @@ class ColorSample::Private {
 
 ColorSample::ColorSample(QWidget* parent) : ColorSample(host::QtHost::instance(), parent) {}
 
+ColorSample::ColorSample(Runtime& runtime, QWidget* parent) : ColorSample(runtime.host(), parent) {}
+
 ColorSample::ColorSample(host::QtHost& host, QWidget* parent)
     : QWidget(parent), d(std::make_unique<Private>(this, host)) {
   // The sample takes no input: clicks go on to the parent, the focus passes it by.

@@ -19,6 +19,8 @@ QVariantList ResultOf(lumo::Runtime& runtime) {
 
 MoreColorsDialog::MoreColorsDialog(QObject* parent) : MoreColorsDialog(host::QtHost::instance(), parent) {}
 
+MoreColorsDialog::MoreColorsDialog(Runtime& runtime, QObject* parent) : MoreColorsDialog(runtime.host(), parent) {}
+
 MoreColorsDialog::MoreColorsDialog(host::QtHost& host, QObject* parent) : QObject(parent), host_(&host) {}
 
 QVariantList MoreColorsDialog::exec() {

@@ -66,8 +66,8 @@ class WhenShown {
   bool acted_ = false;
 };
 
-lumo::Runtime& Runtime() { return host::QtHost::instance().runtime(); }
-lumo::ColorBox& GridBox() { return *lumo::frmDropdown::Instance(Runtime()).ColorBox1(); }
+lumo::Runtime& DefaultRuntime() { return host::QtHost::instance().runtime(); }
+lumo::ColorBox& GridBox() { return *lumo::frmDropdown::Instance(DefaultRuntime()).ColorBox1(); }
 QWidget& Grid(QtFormWindow& form) { return *form.children().findSurface(QStringLiteral("ColorBox1")); }
 QPoint Centre(const lumo::Rect& r) { return {(r.Left + r.Right) / 2, (r.Top + r.Bottom) / 2}; }
 
@@ -279,7 +279,7 @@ class ColorComboWidgetTest : public QObject {
       background = window.grab().toImage().pixelColor(1, 1);
       stacksOver = window.windowHandle()->transientParent();
       QPoint cell;
-      std::tie(cell, chosen) = CellOtherThan(*lumo::frmPopup::Instance(Runtime()).Hexagon()->Cells(), kStartColor);
+      std::tie(cell, chosen) = CellOtherThan(*lumo::frmPopup::Instance(DefaultRuntime()).Hexagon()->Cells(), kStartColor);
       QTest::mouseClick(window.children().findSurface(QStringLiteral("ColorHexagon1")), Qt::LeftButton, {}, cell);
       QTest::mouseClick(window.children().findButton(QStringLiteral("cmdButton"), 0), Qt::LeftButton);
     });

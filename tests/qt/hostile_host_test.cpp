@@ -33,7 +33,7 @@ enum class Victim { Control, Window, OnPick };
 constexpr OLE_COLOR kSystemColor = 0x80000010;  // the honeycomb has no cell for it
 constexpr OLE_COLOR kStartColor = 0x336699;
 
-lumo::Runtime& Runtime() { return host::QtHost::instance().runtime(); }
+lumo::Runtime& DefaultRuntime() { return host::QtHost::instance().runtime(); }
 
 // The loop's window: the visible dialog that is not the host's.
 QDialog* LoopWindow(const QWidget* host) {
@@ -77,7 +77,7 @@ class InsideTheLoop {
 
 void PickAnotherCell(QDialog& dropdown) {
   auto& form = static_cast<host::QtFormWindow&>(dropdown);
-  for (const lumo::CellPtr& cell : *lumo::frmDropdown::Instance(Runtime()).ColorBox1()->Cells()) {
+  for (const lumo::CellPtr& cell : *lumo::frmDropdown::Instance(DefaultRuntime()).ColorBox1()->Cells()) {
     if (cell->Color() == kStartColor || cell->BoundRight() <= cell->BoundLeft()) continue;
     const QPoint centre((cell->BoundLeft() + cell->BoundRight()) / 2, (cell->BoundTop() + cell->BoundBottom()) / 2);
     QTest::mouseClick(form.children().findSurface(QStringLiteral("ColorBox1")), Qt::LeftButton, {}, centre);
@@ -162,7 +162,7 @@ class HostileHostTest : public QObject {
       case Loop::ErrorBox: return qobject_cast<ColorHexagon*>(control)->setColor(kSystemColor);
       case Loop::MoreColors: qobject_cast<MoreColorsDialog*>(control)->exec(); return;
       case Loop::Chooser: {
-        lumo::ColorChooser& chooser = Runtime().Chooser();
+        lumo::ColorChooser& chooser = DefaultRuntime().Chooser();
         chooser.SetCancelError(false);
         return chooser.ShowColor();
       }

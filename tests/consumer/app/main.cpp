@@ -18,6 +18,7 @@
 #include <LumoColorCombo/ColorHexagon.h>
 #include <LumoColorCombo/ColorSample.h>
 #include <LumoColorCombo/MoreColorsDialog.h>
+#include <LumoColorCombo/Runtime.h>
 
 #include "ui_ConsumerForm.h"
 
@@ -88,9 +89,16 @@ int main(int argc, char** argv) {
   layout->addWidget(new LumoColorCombo::ColorHexagon(&window));
   layout->addWidget(new LumoColorCombo::ColorSample(&window));
   LumoColorCombo::MoreColorsDialog dialog(&window);
+  // A part of the application kept apart, on a runtime of its own.
+  LumoColorCombo::Runtime own;
+  auto* apart = new LumoColorCombo::ColorBox(own, &window);
+  apart->setColor(255);
+  layout->addWidget(apart);
+  LumoColorCombo::MoreColorsDialog apartDialog(own, &window);
   window.show();
   QApplication::processEvents();
-  Check(window.findChildren<QWidget*>().size() > 4, "the widgets placed from code");
+  Check(window.findChildren<QWidget*>().size() > 5, "the widgets placed from code");
+  Check(apart->Color() == 255 && apart->isVisible(), "a grid on a runtime of its own");
 
   QWidget compiled;
   Ui::ConsumerForm ui;
