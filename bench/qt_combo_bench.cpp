@@ -2,6 +2,7 @@
 // click until its window is exposed), one hover preview (the pointer move until the
 // field is repainted) and creating 1,000 of them on one form. The ratios to QComboBox
 // are printed at the end.
+#include "PaintCounter.h"
 #include <benchmark/benchmark.h>
 
 #include <QAbstractItemView>
@@ -29,19 +30,6 @@ namespace {
 
 using LumoColorCombo::ColorCombo;
 using LumoColorCombo::host::QtFormWindow;
-
-// Counts the paints a widget receives.
-class PaintCounter : public QObject {
- public:
-  explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
-  int paints = 0;
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++paints;
-    return false;
-  }
-};
 
 double Seconds(const QElapsedTimer& clock) { return static_cast<double>(clock.nsecsElapsed()) / 1e9; }
 

@@ -11,6 +11,7 @@
 // - one pointer move to a new cell of the 272-cell grid, painted, with the pointer over
 //   the grid (so the tooltip work counts), beside an idle processEvents.
 // The summary at the end gives every ratio. Run it under QT_SCALE_FACTOR=2 for 2x.
+#include "PaintCounter.h"
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -288,19 +289,6 @@ void BM_Memory_ColorHexagon(benchmark::State& s) {
 void BM_Memory_ColorCombo(benchmark::State& s) { Memory<ColorCombo>(s, "memory per shown ColorCombo", MakeCombo); }
 
 // --- hover ----------------------------------------------------------------------------
-
-// Counts the paints a widget receives.
-class PaintCounter : public QObject {
- public:
-  explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
-  int paints = 0;
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++paints;
-    return false;
-  }
-};
 
 void BM_Hover_Grid272(benchmark::State& state) {
   std::unique_ptr<ColorBox> box(NewGrid(&Window(), cpsPalette256WithBW, true));
