@@ -235,7 +235,6 @@ void ColorCombo::UserControl_InitProperties() {
     EnsureEventPass();
     SetInitialState();
     SetFont(site_.AmbientFont());
-    m_Caption = site_.AmbientDisplayName();
     CalculateAccessKey();
     Refresh();
   });

@@ -35,6 +35,10 @@ class AccessibleCellSource {
   virtual void press(SurfaceWidget& surface, int index) const = 0;
   // Whether a key that moves the keyboard also moves the selection.
   virtual bool keysSelect() const { return false; }
+
+ protected:
+  // An item's rectangle from the control's bounds, which include every edge.
+  static QRect area(int left, int top, int right, int bottom) { return QRect(QPoint(left, top), QPoint(right, bottom)); }
 };
 
 }  // namespace LumoColorCombo::host

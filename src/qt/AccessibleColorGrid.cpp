@@ -8,15 +8,6 @@
 #include "qt/SurfaceWidget.h"
 
 namespace LumoColorCombo::host {
-namespace {
-
-QRect Area(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) {
-  // Cell and button bounds include every edge.
-  return QRect(QPoint(left, top), QPoint(right, bottom));
-}
-
-}  // namespace
-
 QString AccessibleColorGrid::fallbackName() const { return QWidget::tr("Colour palette"); }
 
 lumo::ColorBox* AccessibleColorGrid::gridOf(const SurfaceWidget& surface) {
@@ -54,7 +45,7 @@ AccessibleItem AccessibleColorGrid::cellItem(const lumo::ColorBox& box, int cell
   if (cell->Color() >= 0 && cell->Color() <= 0xFFFFFF) {
     result.description = QString::fromStdString(cell->GetColorStringHex());
   }
-  result.rect = Area(cell->BoundLeft(), cell->BoundTop(), cell->BoundRight(), cell->BoundBottom());
+  result.rect = area(cell->BoundLeft(), cell->BoundTop(), cell->BoundRight(), cell->BoundBottom());
   // Enter chooses the cell at the hot index, even after a repaint has cleared its frame.
   result.focused = box.FocusZone() == lumo::focuszone::Grid && box.HotIndex() == cellIndex;
   // The grid marks every cell of its colour.
@@ -66,7 +57,7 @@ AccessibleItem AccessibleColorGrid::buttonItem(const std::string& caption, bool 
   AccessibleItem result;
   result.name = QString::fromStdString(caption);
   result.role = QAccessible::PushButton;
-  result.rect = Area(bounds.Left, bounds.Top, bounds.Right, bounds.Bottom);
+  result.rect = area(bounds.Left, bounds.Top, bounds.Right, bounds.Bottom);
   result.focused = focused;
   return result;
 }

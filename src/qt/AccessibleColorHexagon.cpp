@@ -27,7 +27,7 @@ AccessibleItem AccessibleColorHexagon::item(const SurfaceWidget& surface, int in
   AccessibleItem result;
   result.name = QString::fromStdString(control.ToolTipOf(*cell));
   result.description = QString::fromStdString(cell->GetColorStringHex());
-  result.rect = QRect(QPoint(cell->BoundLeft(), cell->BoundTop()), QPoint(cell->BoundRight(), cell->BoundBottom()));
+  result.rect = area(cell->BoundLeft(), cell->BoundTop(), cell->BoundRight(), cell->BoundBottom());
   result.selected = cell == control.SelectedCell();
   result.focused = result.selected;
   return result;
