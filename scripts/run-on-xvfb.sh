@@ -23,7 +23,10 @@ done
 work="$(mktemp -d)"
 mkdir -m 700 "$work/runtime"
 # -displayfd picks a free display number and writes it once the server accepts clients.
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" >"$work/log" 2>&1 &
+# -noreset keeps the server up when its last client leaves: a server resetting then
+# refuses connections for a moment, and short-lived clients (xdotool, the accessibility
+# bus's helpers) come and go while the application under test is connecting.
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" >"$work/log" 2>&1 &
 server=$!
 trap 'kill "$server" 2>/dev/null || true; wait "$server" 2>/dev/null || true; rm -rf "$work"' EXIT
 
