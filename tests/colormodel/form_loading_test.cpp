@@ -2,7 +2,6 @@
 
 #include <clocale>
 #include <cstdlib>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -26,80 +25,59 @@ namespace {
 
 using testing::MemoryPropertyBag;
 
-// Every control on one headless host, each created only for the test that loads it.
+enum class Kind { Box, Hexagon, Combo, Sample };
+
+// Every control on one headless host, each created only while it loads.
 struct Host : ::testing::Test, ColorBoxEvents, ColorHexagonEvents, ColorComboEvents {
+  // Creates a control of `kind` and loads and saves it the way a container does, through
+  // the events the site delivers.
+  void LoadAndSave(Kind kind, const PropertyBag& stored, PropertyBag& saved) {
+    std::shared_ptr<void> control;
+    if (kind == Kind::Box) control = std::make_shared<ColorBox>(host.Runtime, surface, site, *this);
+    if (kind == Kind::Hexagon) control = std::make_shared<ColorHexagon>(host.Runtime, surface, label, site, *this);
+    if (kind == Kind::Combo) control = std::make_shared<ColorCombo>(host.Runtime, surface, site, *this);
+    if (kind == Kind::Sample) control = std::make_shared<ColorSample>(host.Runtime, surface, site);
+    site.StartControl(&stored);
+    site.SaveControl(saved);
+  }
+
   testing::TestHost host;
   testing::RecordingSurface surface;
   testing::RecordingSite site;
   testing::TestLabel label;
 };
 
-// Reads `stored` into a new control of one kind and writes it back into `saved`.
-using LoadAndSave = std::function<void(Host&, const PropertyBag& stored, PropertyBag& saved)>;
-
-struct DamagedCase {
-  const char* name;
-  const char* module;
-  const char* damagedKey;
-  const char* laterKey;  // read after the damaged one
-  LoadAndSave load;
-};
-
-// Creates the control on the host's site and loads and saves it the way a container does,
-// through the events the site delivers.
-template <class Create>
-LoadAndSave Through(Create create) {
-  return [create](Host& h, const PropertyBag& stored, PropertyBag& saved) {
-    const auto control = create(h);
-    h.site.StartControl(&stored);
-    h.site.SaveControl(saved);
-  };
-}
-LoadAndSave LoadBox() {
-  return Through([](Host& h) { return std::make_unique<ColorBox>(h.host.Runtime, h.surface, h.site, h); });
-}
-LoadAndSave LoadHexagon() {
-  return Through(
-      [](Host& h) { return std::make_unique<ColorHexagon>(h.host.Runtime, h.surface, h.label, h.site, h); });
-}
-LoadAndSave LoadCombo() {
-  return Through([](Host& h) { return std::make_unique<ColorCombo>(h.host.Runtime, h.surface, h.site, h); });
-}
-LoadAndSave LoadSample() {
-  return Through([](Host& h) { return std::make_unique<ColorSample>(h.host.Runtime, h.surface, h.site); });
-}
-
-class DamagedForm : public Host, public ::testing::WithParamInterface<DamagedCase> {};
-
 // A value that does not convert is reported with the reading procedure's label, and
 // reading stops there: the later key, stored with a value of its own, keeps its default
 // (so saving leaves it out). A missing key is no damage.
-TEST_P(DamagedForm, IsReportedAndStopsTheRead) {
-  MemoryPropertyBag stored, saved;
-  stored.Values[GetParam().damagedKey] = Variant("garbage");
-  stored.Values[GetParam().laterKey] = Variant(std::int32_t{0xFF});
-  GetParam().load(*this, stored, saved);
-  ASSERT_EQ(host.Messages.Shown.size(), 1u);
-  const std::string& prompt = host.Messages.Shown.front().Prompt;
-  EXPECT_NE(prompt.find("Module: " + std::string(GetParam().module) + "\r\n"), std::string::npos) << prompt;
-  EXPECT_NE(prompt.find("Procedure: UserControl_ReadProperties\r\n"), std::string::npos) << prompt;
-  EXPECT_EQ(saved.Values.count(GetParam().laterKey), 0u);
+TEST_F(Host, DamagedValueIsReportedAndStopsTheRead) {
+  const struct {
+    Kind kind;
+    const char *module, *damagedKey, *laterKey;  // laterKey: read after the damaged one
+  } cases[] = {{Kind::Box, "ColorBox", "AllowMoreColors", "Color"},
+               {Kind::Box, "ColorBox", "Color", "AutoColor"},
+               {Kind::Hexagon, "ColorHexagon", "IsAutomatic", "Color"},
+               {Kind::Hexagon, "ColorHexagon", "Color", "BackColor"},
+               {Kind::Combo, "LumoDropdown", "AllowMoreColors", "Color"},
+               {Kind::Combo, "LumoDropdown", "Color", "AutoColor"},
+               {Kind::Sample, "ColorSample", "BackColor", "ForeColor"}};
+  for (const auto& c : cases) {
+    MemoryPropertyBag stored, saved;
+    stored.Values[c.damagedKey] = Variant("garbage");
+    stored.Values[c.laterKey] = Variant(std::int32_t{0xFF});
+    host.Messages.Shown.clear();
+    LoadAndSave(c.kind, stored, saved);
+    ASSERT_EQ(host.Messages.Shown.size(), 1u) << c.module << " " << c.damagedKey;
+    const std::string& prompt = host.Messages.Shown.front().Prompt;
+    const std::string where = "Module: " + std::string(c.module) + "\r\nProcedure: UserControl_ReadProperties\r\n";
+    EXPECT_NE(prompt.find(where), std::string::npos) << prompt;
+    EXPECT_EQ(saved.Values.count(c.laterKey), 0u) << c.module << " " << c.laterKey;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Controls, DamagedForm,
-    ::testing::Values(DamagedCase{"BoxBoolean", "ColorBox", "AllowMoreColors", "Color", LoadBox()},
-                      DamagedCase{"BoxColor", "ColorBox", "Color", "AutoColor", LoadBox()},
-                      DamagedCase{"HexagonBoolean", "ColorHexagon", "IsAutomatic", "Color", LoadHexagon()},
-                      DamagedCase{"HexagonColor", "ColorHexagon", "Color", "BackColor", LoadHexagon()},
-                      DamagedCase{"ComboBoolean", "LumoDropdown", "AllowMoreColors", "Color", LoadCombo()},
-                      DamagedCase{"ComboColor", "LumoDropdown", "Color", "AutoColor", LoadCombo()},
-                      DamagedCase{"SampleColor", "ColorSample", "BackColor", "ForeColor", LoadSample()}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(Host, MissingKeysLoadTheirDefaultsWithoutAReport) {
   MemoryPropertyBag stored, saved;
-  for (const auto& load : {LoadBox(), LoadHexagon(), LoadCombo(), LoadSample()}) load(*this, stored, saved);
+  for (const Kind kind : {Kind::Box, Kind::Hexagon, Kind::Combo, Kind::Sample}) LoadAndSave(kind, stored, saved);
   EXPECT_TRUE(host.Messages.Shown.empty());
   EXPECT_TRUE(saved.Values.empty());
 }
