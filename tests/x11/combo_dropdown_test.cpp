@@ -1,18 +1,23 @@
-// A real ColorCombo on an X server, with every press, move and focus change going
-// through the server: the drop-down opens under the field, the colour under the pointer
-// shows in the field, a click picks it, and a press outside the grid, outside the
-// application or the application losing the activation each close it with the old colour.
+// A real ColorCombo on an X server, every press, move and key going through the server.
+// Its drop-down is a popup under the field, placed against the combo's window, grown to
+// its full size, active and with the keyboard on its grid, which holds the mouse: the
+// colour under the pointer shows in the field, and the pointer leaving the grid ends its
+// hot cell. A click or Return picks; the More Colors dialog takes the mouse from the
+// grid and its Ok picks; a press outside the grid, outside the application or the
+// application losing the activation each close it with the old colour.
+#include <QPushButton>
 #include <QScreen>
 #include <QtTest>
 
-#include "GridSpots.h"
-#include "ServerInput.h"
+#include "ShownForms.h"
 #include "WhenReady.h"
 #include <LumoColorCombo/ColorCombo.h>
-#include "qt/QtFormWindow.h"
-#include "qt/SurfaceWidget.h"
+#include "colorbox/ColorBox.h"
+#include "colorcombo/frmDropdown.h"
+#include "qt/QtHost.h"
 
 using namespace LumoColorCombo;
+using ShownForms::CentreOf;
 
 namespace {
 
@@ -20,20 +25,11 @@ constexpr OLE_COLOR kStartColor = 0x336699;
 
 QString Hex(OLE_COLOR color) { return QStringLiteral("%1").arg(color, 6, 16, QLatin1Char('0')); }
 
-host::QtFormWindow* OpenDropdown() {
-  for (QWidget* top : QApplication::topLevelWidgets()) {
-    auto* form = qobject_cast<host::QtFormWindow*>(top);
-    if (form != nullptr && form->formName() == QLatin1String("frmDropdown") && form->isVisible() &&
-        form->windowHandle()->isExposed()) {
-      return form;
-    }
-  }
-  return nullptr;
-}
-
 OLE_COLOR FieldColor(const ColorCombo& combo) {
   return GridSpots::ColorAt(combo.surface()->image(), QPoint(12, combo.height() / 2));
 }
+
+lumo::frmDropdown* Dropdown() { return host::QtHost::instance().runtime().SharedForm<lumo::frmDropdown>(); }
 
 // The X server's root window: focusing it takes the activation from every window of
 // the application, as switching to another application does.
@@ -50,73 +46,133 @@ class ComboDropdownTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void closesThroughTheServer_data() {
-    QTest::addColumn<QString>("ending");
-    QTest::newRow("a click on the previewed cell") << "pick";
-    QTest::newRow("a press outside the grid, in the application") << "window";
-    QTest::newRow("a press outside the application") << "desktop";
-    QTest::newRow("the application losing the activation") << "deactivate";
-  }
+  void endsThroughTheServer_data();
+  void endsThroughTheServer();
 
-  void closesThroughTheServer() {
-    QFETCH(QString, ending);
-    QWidget window;
-    window.setGeometry(100, 100, 400, 320);
-    auto* combo = new ColorCombo(&window);
-    combo->setGeometry(20, 20, 180, combo->height());
-    combo->setIsAutomatic(false);
-    combo->setColor(kStartColor);
-    QStringList log;
-    connect(combo, &ColorCombo::BeforeDropDown, [&](bool&) { log << "BeforeDropDown"; });
-    connect(combo, &ColorCombo::BeforeColorChanged,
-            [&](OLE_COLOR color, bool&) { log << "BeforeColorChanged " + Hex(color); });
-    connect(combo, &ColorCombo::AfterColorChanged, [&](OLE_COLOR color) { log << "AfterColorChanged " + Hex(color); });
-    connect(combo, &ColorCombo::AfterDropUp, [&] { log << "AfterDropUp"; });
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+ private:
+  // What the user does once the drop-down is open and a cell is previewed.
+  void End(const QString& ending, QWidget& window, host::SurfaceWidget& grid);
 
-    QRect field, dropdown;
-    OLE_COLOR hovered = -1, previewed = -2;
-    QStringList whilePreviewing;
-    WhenReady user([] { return OpenDropdown() != nullptr; }, [&] {
-      host::QtFormWindow& form = *OpenDropdown();
-      field = QRect(combo->mapToGlobal(QPoint(0, 0)), combo->size());
-      dropdown = form.frameGeometry();
-      host::SurfaceWidget& grid = *form.children().findSurface(QStringLiteral("ColorBox1"));
-      const QPoint cell = GridSpots::CellSpot(grid.image());
-      hovered = GridSpots::ColorAt(grid.image(), cell);
-      ServerInput::MoveTo(grid.mapToGlobal(cell));
-      (void)QTest::qWaitFor([&] { return FieldColor(*combo) == hovered; });
-      previewed = FieldColor(*combo);
-      whilePreviewing = log;
-      // The pointer rests on the cell already: a move there would wait for nothing.
-      if (ending == "pick") ServerInput::Xdotool({"click", "1"});
-      if (ending == "window") ServerInput::Click(window.geometry().bottomRight() - QPoint(5, 5));
-      if (ending == "desktop") ServerInput::Click(window.screen()->geometry().bottomRight() - QPoint(10, 10));
-      if (ending == "deactivate") ServerInput::Xdotool({"windowfocus", RootWindow()});
-    });
-    // Never hang: a drop-down that ignored the user is closed, and the test fails.
-    QTimer::singleShot(15000, [] {
-      if (host::QtFormWindow* form = OpenDropdown()) form->Unload();
-    });
-
-    QVERIFY(ServerInput::Click(combo->mapToGlobal(QPoint(30, combo->height() / 2))));
-    QTRY_VERIFY_WITH_TIMEOUT(log.endsWith("AfterDropUp"), 20000);
-
-    QCOMPARE(dropdown.left(), field.left());
-    QVERIFY2(qAbs(dropdown.top() - field.bottom()) <= 1, "right under the field");
-    QCOMPARE(previewed, hovered);
-    QCOMPARE(whilePreviewing, QStringList{"BeforeDropDown"});
-    const bool picked = ending == "pick";
-    const QStringList expected = picked ? QStringList{"BeforeDropDown", "BeforeColorChanged " + Hex(hovered),
-                                                      "AfterColorChanged " + Hex(hovered), "AfterDropUp"}
-                                        : QStringList{"BeforeDropDown", "AfterDropUp"};
-    QCOMPARE(log, expected);
-    QCOMPARE(combo->Color(), picked ? hovered : kStartColor);
-    QCOMPARE(FieldColor(*combo), picked ? hovered : kStartColor);
-  }
+  bool hotLeft_ = false;
+  OLE_COLOR inDialog_ = -1;  // the honeycomb cell clicked in the dialog
+  std::unique_ptr<WhenReady> dialogUser_;
 };
+
+void ComboDropdownTest::endsThroughTheServer_data() {
+  QTest::addColumn<QString>("ending");
+  QTest::newRow("a click on the previewed cell") << "pick";
+  QTest::newRow("Right, Return") << "keys";
+  QTest::newRow("More Colors, a honeycomb cell, Ok") << "dialog";
+  QTest::newRow("a press outside the grid, in the application") << "window";
+  QTest::newRow("a press outside the application") << "desktop";
+  QTest::newRow("the application losing the activation") << "deactivate";
+}
+
+void ComboDropdownTest::endsThroughTheServer() {
+  QFETCH(QString, ending);
+  QWidget window;
+  window.setGeometry(100, 100, 400, 320);
+  auto* combo = new ColorCombo(&window);
+  combo->setGeometry(20, 20, 180, combo->height());
+  combo->setIsAutomatic(false);
+  combo->setColor(kStartColor);
+  combo->setOpenEffect(oecUnfold);
+  QStringList log;
+  connect(combo, &ColorCombo::BeforeDropDown, [&](bool&) { log << "BeforeDropDown"; });
+  connect(combo, &ColorCombo::BeforeColorChanged,
+          [&](OLE_COLOR color, bool&) { log << "BeforeColorChanged " + Hex(color); });
+  connect(combo, &ColorCombo::AfterColorChanged, [&](OLE_COLOR color) { log << "AfterColorChanged " + Hex(color); });
+  connect(combo, &ColorCombo::AfterDropUp, [&] { log << "AfterDropUp"; });
+  window.show();
+  window.activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(&window));
+
+  QRect shown, full;
+  const QWindow* placedAgainst = nullptr;
+  bool active = false, gridHasTheKeys = false;
+  OLE_COLOR hovered = -1, previewed = -2;
+  QStringList whilePreviewing;
+  hotLeft_ = false;
+  inDialog_ = -1;
+  // Once Form_Activate has run the opening effect to its end.
+  WhenReady user([] { return ShownForms::Find("frmDropdown") != nullptr && !Dropdown()->Prepared(); }, [&] {
+    host::QtFormWindow& form = *ShownForms::Find("frmDropdown");
+    shown = form.geometry();
+    full = QRect(combo->mapToGlobal(QPoint(0, combo->height())),
+                 QSize(Dropdown()->FullWidth() / 15, Dropdown()->FullHeight() / 15));
+    placedAgainst = form.windowHandle()->transientParent();
+    active = host::QtHost::instance().runtime().Windows().GetActiveWindow() == form.hWnd();
+    host::SurfaceWidget& grid = *form.children().findSurface(QStringLiteral("ColorBox1"));
+    gridHasTheKeys = QApplication::focusWidget() == &grid;
+    const QPoint cell = GridSpots::CellSpot(grid.image());
+    hovered = GridSpots::ColorAt(grid.image(), cell);
+    ServerInput::MoveTo(grid.mapToGlobal(cell));
+    (void)QTest::qWaitFor([&] { return FieldColor(*combo) == hovered; });
+    previewed = FieldColor(*combo);
+    whilePreviewing = log;
+    End(ending, window, grid);
+  });
+  // Never hang: a drop-down (or dialog) that ignored the user is closed, and the test fails.
+  QTimer::singleShot(15000, &window, [] {
+    if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();
+    if (host::QtFormWindow* form = ShownForms::Find("frmDropdown")) form->Unload();
+  });
+
+  QVERIFY(ServerInput::Click(combo->mapToGlobal(QPoint(30, combo->height() / 2))));
+  QTRY_VERIFY_WITH_TIMEOUT(log.endsWith("AfterDropUp"), 20000);
+
+  QCOMPARE(shown.size(), full.size());
+  QCOMPARE(shown.left(), full.left());
+  QVERIFY2(qAbs(shown.top() - full.top()) <= 1, "right under the field");
+  QCOMPARE(placedAgainst, window.windowHandle());
+  QVERIFY(active);
+  QVERIFY(gridHasTheKeys);
+  QCOMPARE(previewed, hovered);
+  QCOMPARE(whilePreviewing, QStringList{"BeforeDropDown"});
+  if (ending == "window") QVERIFY2(hotLeft_, "the grid saw the pointer leave");
+  const OLE_COLOR chosen = ending == "pick"     ? hovered
+                           : ending == "dialog" ? inDialog_
+                           : ending == "keys"   ? combo->Color()  // the cell Right reached
+                                                : kStartColor;
+  const QStringList expected = chosen != kStartColor ? QStringList{"BeforeDropDown", "BeforeColorChanged " + Hex(chosen),
+                                                                   "AfterColorChanged " + Hex(chosen), "AfterDropUp"}
+                                                     : QStringList{"BeforeDropDown", "AfterDropUp"};
+  QCOMPARE(log, expected);
+  QCOMPARE(log.size(), ending == "pick" || ending == "keys" || ending == "dialog" ? 4 : 2);
+  QCOMPARE(combo->Color(), chosen);
+  QCOMPARE(FieldColor(*combo), chosen);
+}
+
+void ComboDropdownTest::End(const QString& ending, QWidget& window, host::SurfaceWidget& grid) {
+  // The pointer rests on the cell already: a move there would wait for nothing.
+  if (ending == "pick") ServerInput::Xdotool({"click", "1"});
+  if (ending == "keys") {
+    ServerInput::Key(QStringLiteral("Right"));
+    ServerInput::Key(QStringLiteral("Return"));
+  }
+  if (ending == "window") {
+    ServerInput::MoveTo(window.geometry().bottomRight() - QPoint(5, 5));
+    hotLeft_ = QTest::qWaitFor([] { return Dropdown()->ColorBox1()->HotCell() == nullptr; });
+    ServerInput::Xdotool({"click", "1"});
+  }
+  if (ending == "desktop") ServerInput::Click(window.screen()->geometry().bottomRight() - QPoint(10, 10));
+  if (ending == "deactivate") ServerInput::Xdotool({"windowfocus", RootWindow()});
+  if (ending != "dialog") return;
+  // The dialog: a honeycomb cell and Ok, both through the X server.
+  dialogUser_ = std::make_unique<WhenReady>(
+      [] {
+        host::QtFormWindow* dialog = ShownForms::Find("frmPopup");
+        return dialog != nullptr && dialog->isActiveWindow();
+      },
+      [this] {
+        host::QtFormWindow& dialog = *ShownForms::Find("frmPopup");
+        QVERIFY2(ShownForms::Find("frmDropdown") == nullptr, "the drop-down steps aside for the dialog");
+        inDialog_ = ShownForms::ClickCell(*dialog.children().findSurface(QStringLiteral("ColorHexagon1")));
+        ServerInput::Click(CentreOf(*dialog.children().findButton(QStringLiteral("cmdButton"), 0)));
+      });
+  const lumo::Rect more = Dropdown()->ColorBox1()->MoreRect();
+  ServerInput::Click(grid.mapToGlobal(QPoint((more.Left + more.Right) / 2, (more.Top + more.Bottom) / 2)));
+}
 
 QTEST_MAIN(ComboDropdownTest)
 #include "combo_dropdown_test.moc"
