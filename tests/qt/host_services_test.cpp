@@ -1,42 +1,52 @@
-// The Qt host's services with their modal loops: message box, timers, colour chooser,
-// and the control site (ambient properties, access keys).
+// The Qt host's services: the message box, timers and colour chooser with their modal
+// loops, the control site's ambient properties, and the window system (capture, handles,
+// focus, screen points, forms).
 #include <QtTest>
 
 #include <QColorDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include <memory>
 
-#include "ModalCloser.h"
+#include "InsideModalLoop.h"
+#include "RecordingFormEvents.h"
 #include "colormodel/RuntimeError.h"
 #include "qt/QtColorChooser.h"
 #include "qt/QtControlSite.h"
+#include "qt/QtFormWindow.h"
 #include "qt/QtHost.h"
 #include "qt/QtMessageBox.h"
 #include "qt/QtTimerService.h"
+#include "qt/QtWindowSystem.h"
 #include "qt/WidgetHandles.h"
 
 using namespace LumoColorCombo::host;
 
+namespace {
+
+// Notes which widget each mouse press went to.
+class PressRecorder : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonPress) pressed << watched;
+    return false;
+  }
+  QList<QObject*> pressed;
+};
+
+}  // namespace
+
 class HostServicesTest : public QObject {
   Q_OBJECT
 
- private slots:
-  void reportedErrorShowsWarningBoxWithTheMessage() {
-    QtHost host;
-    QStringList shown;
-    ModalCloser<QMessageBox> closer([&](QMessageBox& box) {
-      shown << box.windowTitle() << box.text() << QString::number(box.icon());
-      QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
-    });
-    host.runtime().Errors().ReportError(6, "Overflow", "CColorboxCol", "FindClosest");
-    QVERIFY(closer.acted());
-    QCOMPARE(shown, (QStringList{"Error", "Error Number: 6\nModule: CColorboxCol\nProcedure: FindClosest\n\nOverflow\n",
-                                 QString::number(QMessageBox::Warning)}));
-  }
+  QtWindowSystem windows_;
 
+ private slots:
+  // The box shows the prompt with plain line ends under the title, with the style's
+  // icon and buttons, and answers the code of the button pressed.
   void messageBoxAnswersTheButtonPressed_data() {
     QTest::addColumn<int>("style");
     QTest::addColumn<int>("press");  // a QMessageBox::StandardButton, or a key
@@ -44,6 +54,7 @@ class HostServicesTest : public QObject {
     QTest::addColumn<int>("buttonCount");
     QTest::addColumn<int>("answer");
     QTest::newRow("OK") << 0 << int(QMessageBox::Ok) << int(QMessageBox::NoIcon) << 1 << 1;
+    QTest::newRow("OK, exclamation") << 48 << int(QMessageBox::Ok) << int(QMessageBox::Warning) << 1 << 1;
     QTest::newRow("Abort/Retry/Ignore, Retry, critical") << 2 + 16 << int(QMessageBox::Retry) << int(QMessageBox::Critical) << 3 << 4;
     QTest::newRow("Yes/No/Cancel, No, information") << 3 + 64 << int(QMessageBox::No) << int(QMessageBox::Information) << 3 << 7;
     QTest::newRow("Yes/No/Cancel, Escape") << 3 << int(Qt::Key_Escape) << int(QMessageBox::NoIcon) << 3 << 2;
@@ -56,9 +67,11 @@ class HostServicesTest : public QObject {
     QFETCH(int, buttonCount);
     QFETCH(int, answer);
     QtMessageBox messages;
+    QStringList shown;
     int shownIcon = -1;
     qsizetype shownButtons = 0;
-    ModalCloser<QMessageBox> closer([&](QMessageBox& box) {
+    const InsideModalLoop<QMessageBox> closer([&](QMessageBox& box) {
+      shown << box.windowTitle() << box.text();
       shownIcon = box.icon();
       shownButtons = box.buttons().size();
       if (QAbstractButton* button = box.button(QMessageBox::StandardButton(press))) {
@@ -68,6 +81,8 @@ class HostServicesTest : public QObject {
       }
     });
     QCOMPARE(messages.MsgBox("Line one\r\nLine two", style, "Title"), answer);
+    QVERIFY(closer.ended());
+    QCOMPARE(shown, (QStringList{"Title", "Line one\nLine two"}));
     QCOMPARE(shownIcon, icon);
     QCOMPARE(shownButtons, qsizetype(buttonCount));
   }
@@ -109,7 +124,7 @@ class HostServicesTest : public QObject {
     chooser.SetColor(lumo::RGB(1, 2, 3));
     chooser.SetCancelError(cancelError);
     QColor opened;
-    ModalCloser<QColorDialog> closer([&](QColorDialog& dialog) {
+    const InsideModalLoop<QColorDialog> closer([&](QColorDialog& dialog) {
       opened = dialog.currentColor();
       dialog.setCurrentColor(QColor(10, 20, 250));
       confirm ? dialog.accept() : dialog.reject();
@@ -150,21 +165,82 @@ class HostServicesTest : public QObject {
     QCOMPARE(site.hWnd(), WidgetHandles::handleOf(control));
   }
 
-  void siteAccessKeyGivesFocus() {
-    QWidget form;
-    auto* other = new QLineEdit(&form);
-    auto* control = new QLineEdit(&form);
-    control->move(0, 40);
-    QtControlSite site(control);
-    QSignalSpy pressed(&site, &QtControlSite::accessKeyPressed);
-    site.SetAccessKeys("c");
-    form.show();
-    form.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    other->setFocus();
-    QTest::keyClick(other, Qt::Key_C, Qt::AltModifier);
-    QTRY_VERIFY(control->hasFocus());
-    QCOMPARE(pressed.count(), 1);
+  // A press outside the holder goes to it while it holds the capture; a stale handle
+  // takes no capture and finds no widget.
+  void captureTakesClicksMadeOutsideTheHolder() {
+    QWidget window;
+    window.resize(200, 100);
+    auto* holder = new QWidget(&window);
+    holder->setGeometry(0, 0, 100, 100);
+    auto* other = new QWidget(&window);
+    other->setGeometry(100, 0, 100, 100);
+    auto* gone = new QWidget(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    PressRecorder recorder;
+    holder->installEventFilter(&recorder);
+    other->installEventFilter(&recorder);
+    const lumo::WindowHandle a = WidgetHandles::handleOf(holder);
+    const lumo::WindowHandle b = WidgetHandles::handleOf(other);
+    const lumo::WindowHandle stale = WidgetHandles::handleOf(gone);
+    delete gone;
+
+    QCOMPARE(windows_.SetCapture(b), lumo::WindowHandle{0});
+    QCOMPARE(windows_.SetCapture(a), b);
+    QCOMPARE(windows_.SetCapture(stale), a);
+    QCOMPARE(windows_.GetCapture(), a);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(150, 50));
+    QVERIFY(windows_.ReleaseCapture());
+    QCOMPARE(windows_.GetCapture(), lumo::WindowHandle{0});
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(150, 50));
+
+    QCOMPARE(recorder.pressed, (QList<QObject*>{holder, other}));
+    QCOMPARE(WidgetHandles::widgetOf(stale), nullptr);
+    QCOMPARE(windows_.ClientToScreen(stale, {3, 4}), (lumo::Point{3, 4}));
+  }
+
+  void activeWindowFocusAndScreenPointsComeFromQt() {
+    QWidget window;
+    window.setGeometry(120, 80, 200, 100);
+    auto* field = new QLineEdit(&window);
+    field->setGeometry(10, 20, 50, 20);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    field->setFocus();
+
+    const lumo::Point screen = windows_.ClientToScreen(WidgetHandles::handleOf(field), {1, 2});
+
+    QCOMPARE(windows_.GetActiveWindow(), WidgetHandles::handleOf(&window));
+    QTRY_COMPARE(windows_.GetFocus(), WidgetHandles::handleOf(field));
+    QCOMPARE(QPoint(screen.X, screen.Y), window.geometry().topLeft() + QPoint(11, 22));
+    const QSize pixels = QGuiApplication::primaryScreen()->geometry().size();
+    QCOMPARE(QSize(windows_.ScreenWidth(), windows_.ScreenHeight()), pixels * 15);
+  }
+
+  void formsLoadHiddenByName() {
+    RecordingFormEvents events;
+    for (const char* name : {"frmPopup", "frmDropdown", "frmOther"}) {
+      const std::unique_ptr<lumo::FormWindow> form = windows_.LoadForm(name, events);
+      auto* window = dynamic_cast<QtFormWindow*>(form.get());
+      QVERIFY(window && window->isWindow() && !window->isVisible() && form->IsLoaded());
+      QCOMPARE(window->formName(), QString(name));
+      QCOMPARE(form->hWnd(), WidgetHandles::handleOf(window));
+      QCOMPARE(window->windowFlags().testFlag(Qt::FramelessWindowHint), QString(name) == "frmDropdown");
+    }
+    QVERIFY(events.log.isEmpty());
+  }
+
+  void defaultHostIsOnePerApplicationAndItsDoEventsRunsQueuedWork() {
+    QtHost& host = QtHost::instance();
+    bool ran = false;
+    QMetaObject::invokeMethod(qApp, [&] { ran = true; }, Qt::QueuedConnection);
+
+    host.runtime().Windows().DoEvents();
+
+    QVERIFY(ran);
+    QCOMPARE(&QtHost::instance(), &host);
+    QCOMPARE(&host.runtime().Windows(), static_cast<lumo::WindowSystem*>(&host.windows()));
   }
 };
 

@@ -8,8 +8,7 @@
 #include <QPointer>
 #include <QtTest>
 
-#include <functional>
-
+#include "InsideModalLoop.h"
 #include "colorbox/ColorBox.h"
 #include "colorcombo/frmDropdown.h"
 #include "colormodel/ColorChooser.h"
@@ -43,37 +42,6 @@ QDialog* LoopWindow(const QWidget* host) {
   }
   return nullptr;
 }
-
-// Acts once on the loop's window from inside its loop, then closes any error box that
-// opens after it, counting them.
-class InsideTheLoop {
- public:
-  InsideTheLoop(QPointer<QDialog> host, std::function<void(QDialog&)> act) : host_(host), act_(std::move(act)) {
-    QObject::connect(&timer_, &QTimer::timeout, [this] { Poll(); });
-    timer_.start(0);
-  }
-  bool acted() const { return acted_; }
-  int laterBoxes() const { return laterBoxes_; }
-
- private:
-  void Poll() {
-    QDialog* window = LoopWindow(host_);
-    if (window == nullptr || !window->windowHandle() || !window->windowHandle()->isExposed()) return;
-    if (acted_) {
-      ++laterBoxes_;
-      window->close();
-      return;
-    }
-    acted_ = true;
-    act_(*window);
-  }
-
-  QPointer<QDialog> host_;
-  std::function<void(QDialog&)> act_;
-  QTimer timer_;
-  bool acted_ = false;
-  int laterBoxes_ = 0;
-};
 
 void PickAnotherCell(QDialog& dropdown) {
   auto& form = static_cast<host::QtFormWindow&>(dropdown);
@@ -120,17 +88,19 @@ class HostileHostTest : public QObject {
     if (victim == Victim::OnPick) {
       QObject::connect(combo, &ColorCombo::BeforeColorChanged, combo, [combo](OLE_COLOR, bool&) { delete combo; });
     }
-    InsideTheLoop host(window, [&](QDialog& loopWindow) {
+    InsideModalLoop<QDialog> host(
+        [&](QDialog& loopWindow) {
       const QPointer<QDialog> open(&loopWindow);
-      if (victim == Victim::OnPick) return PickAnotherCell(loopWindow);
-      if (victim == Victim::Control) delete control.data();
-      if (victim == Victim::Window) delete window.data();
-      if (open) open->close();
-    });
+          if (victim == Victim::OnPick) return PickAnotherCell(loopWindow);
+          if (victim == Victim::Control) delete control.data();
+          if (victim == Victim::Window) delete window.data();
+          if (open) open->close();
+        },
+        [&window] { return LoopWindow(window); });
     RunLoop(loop, control);
 
     QVERIFY(host.acted());
-    QCOMPARE(host.laterBoxes(), 0);
+    QCOMPARE(host.laterWindows(), 0);
     QVERIFY(control.isNull());
     QCOMPARE(window.isNull(), victim == Victim::Window);
     delete window.data();

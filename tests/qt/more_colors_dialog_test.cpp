@@ -6,6 +6,8 @@
 #include <QtTest>
 #include <functional>
 
+#include "InsideModalLoop.h"
+
 #include <LumoColorCombo/MoreColorsDialog.h>
 #include "qt/SurfaceWidget.h"
 
@@ -21,19 +23,12 @@ QWidget* OpenDialog() {
   return nullptr;
 }
 
-// Runs the dialog; `user` acts on it from inside its modal loop.
+// Runs the dialog; `user` acts on it from inside its modal loop and ends it.
 QVariantList RunDialog(MoreColorsDialog& dialog, const std::function<void(QWidget&)>& user) {
-  bool acted = false;
-  QTimer::singleShot(0, [&] {
-    QWidget* window = OpenDialog();
-    if (window == nullptr) return;
-    QVERIFY(QTest::qWaitForWindowExposed(window));
-    acted = true;
-    user(*window);
-  });
+  const InsideModalLoop<QWidget> inside(user, OpenDialog);
   const QVariantList result = dialog.exec();
-  if (!acted) qWarning("the dialog never opened");
-  return result;
+  if (!inside.ended()) qWarning("the dialog never opened or stayed open");
+  return inside.ended() ? result : QVariantList();
 }
 
 QColor Centre(const SurfaceWidget& swatch) {
@@ -53,6 +48,8 @@ class MoreColorsDialogTest : public QObject {
   Q_OBJECT
 
  private slots:
+  // Given a widget, the dialog belongs to its window rather than to the active one: it
+  // stands over it in its palette. Ok right after opening hands back what the caller set.
   void outcomeOfEachWayOfClosing_data() {
     QTest::addColumn<QString>("action");
     QTest::addColumn<int>("slotCount");
@@ -66,41 +63,31 @@ class MoreColorsDialogTest : public QObject {
     QFETCH(QString, action);
     QFETCH(int, slotCount);
     QFETCH(bool, committed);
-    MoreColorsDialog dialog;
+    const QColor dark(0x20, 0x24, 0x2C);
+    QWidget owner, active;
+    owner.setPalette(QPalette(dark.lighter(150), dark));
+    owner.show();
+    active.show();
+    QApplication::setActiveWindow(&active);
+    MoreColorsDialog dialog(new QWidget(&owner));
     dialog.setIsAutomatic(false);
     dialog.setColor(0x3399FF);  // a colour of the honeycomb
+    QColor background;
+    const QWindow* stacksOver = nullptr;
     const QVariantList result = RunDialog(dialog, [&](QWidget& window) {
+      background = window.grab().toImage().pixelColor(1, 1);
+      stacksOver = window.windowHandle()->transientParent();
       if (action.isEmpty()) {
         window.close();
       } else {
         Click(window, action.toLatin1().constData());
       }
     });
-    QCOMPARE(result.size(), slotCount);
-    QCOMPARE(result.at(0).toBool(), committed);
-    // Ok right after opening hands back what the caller set.
-    QCOMPARE(result.at(1), committed ? QVariant(0x3399FF) : QVariant());
-  }
-
-  // Given a widget, the dialog belongs to its window rather than to the active one.
-  void givenAWidgetTheDialogStandsOverItsWindowInItsPalette() {
-    const QColor dark(0x20, 0x24, 0x2C);
-    QWidget owner, active;
-    owner.setPalette(QPalette(dark.lighter(150), dark));
-    auto* control = new QWidget(&owner);
-    owner.show();
-    active.show();
-    QApplication::setActiveWindow(&active);
-    MoreColorsDialog dialog(control);
-    QColor background;
-    const QWindow* stacksOver = nullptr;
-    RunDialog(dialog, [&](QWidget& window) {
-      background = window.grab().toImage().pixelColor(1, 1);
-      stacksOver = window.windowHandle()->transientParent();
-      window.close();
-    });
     QCOMPARE(background, dark);
     QCOMPARE(stacksOver, owner.windowHandle());
+    QCOMPARE(result.size(), slotCount);
+    QCOMPARE(result.value(0).toBool(), committed);
+    QCOMPARE(result.value(1), committed ? QVariant(0x3399FF) : QVariant());
   }
 
   void typingAColourAndLeavingTheBoxPaintsTheNewSwatchBesideTheCallersColour() {
