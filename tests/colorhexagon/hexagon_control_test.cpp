@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "colorhexagon/ColorHexagon.h"
@@ -69,9 +71,8 @@ TEST_F(Hexagon, InitialisePaintsEachCellInItsOwnColourAndStoresItsBox) {
   const auto polygons = screen.CallsOf("Polygon");
   ASSERT_EQ(polygons.size(), static_cast<std::size_t>(HexagonTable::CellCount));
   EXPECT_EQ(polygons[0].Args, (std::vector<std::int32_t>{54, 4, 63, 0, 71, 4, 71, 14, 64, 18, 63, 18, 54, 14}));
-  EXPECT_EQ(polygons[0].FillColor, ColorHexagon::DefaultColor);
-  EXPECT_EQ(polygons[0].ForeColor, ColorHexagon::DefaultColor);
-  EXPECT_EQ(polygons[0].FillStyle, fill::Solid);
+  EXPECT_EQ(std::tuple(polygons[0].FillColor, polygons[0].ForeColor, polygons[0].FillStyle),
+            std::tuple(ColorHexagon::DefaultColor, ColorHexagon::DefaultColor, fill::Solid));
   EXPECT_EQ(polygons[127].Args,
             (std::vector<std::int32_t>{36, 214, 54, 206, 71, 214, 71, 234, 55, 242, 54, 242, 36, 234}));
   // Rows 15 pixels apart, each at its offset in steps of 9 (the lower grey row from X 3).
@@ -104,10 +105,9 @@ TEST_F(Hexagon, SelectionMarkIsInsetThreeLeftTwoRightInInvertedColourAtPenWidthT
   const auto polygons = screen.CallsOf("Polygon");
   ASSERT_EQ(polygons.size(), 2u);
   EXPECT_EQ(polygons[1].Args, (std::vector<std::int32_t>{57, 4, 63, 2, 69, 4, 69, 14, 64, 16, 63, 16, 57, 14}));
-  EXPECT_EQ(polygons[1].ForeColor, 0x99CCFF);  // 0x663300 inverted
-  EXPECT_EQ(polygons[1].DrawWidth, 2);
-  EXPECT_EQ(polygons[1].FillStyle, fill::Transparent);
-  EXPECT_EQ(screen.DrawWidth(), 1);
+  // 0x663300 inverted, at pen width 2, and the pen back at 1 afterwards.
+  EXPECT_EQ(std::tuple(polygons[1].ForeColor, polygons[1].DrawWidth, polygons[1].FillStyle, screen.DrawWidth()),
+            std::tuple(0x99CCFF, 2, fill::Transparent, 1));
   EXPECT_EQ(Selected(), 1);
 }
 
@@ -157,9 +157,7 @@ TEST_P(HexagonClick, RaisesColourThenAutomaticThenClick) {
   events.Seen.clear();
   Click(64);
   EXPECT_EQ(events.Seen, GetParam().events);
-  EXPECT_EQ(hexagon.Color(), 0xFFFFFF);
-  EXPECT_FALSE(hexagon.IsAutomatic());
-  EXPECT_EQ(Selected(), 64);
+  EXPECT_EQ(std::tuple(hexagon.Color(), hexagon.IsAutomatic(), Selected()), std::tuple(0xFFFFFF, false, 64));
 }
 
 constexpr const char* kClickWhite = "ColorClick FFFFFF Hex={FF,FF,FF} 1 116,99";
@@ -177,8 +175,7 @@ TEST_F(Hexagon, ReleasingOnAnotherCellChoosesNothingAndOnlyACompletedClickGetsAD
   screen.MouseUp(Centre(65).X, Centre(65).Y);
   screen.DoubleClick();
   EXPECT_TRUE(events.Seen.empty());
-  EXPECT_TRUE(hexagon.IsAutomatic());
-  EXPECT_EQ(hexagon.Color(), ColorHexagon::DefaultColor);
+  EXPECT_EQ(std::pair(hexagon.IsAutomatic(), hexagon.Color()), std::pair(true, ColorHexagon::DefaultColor));
   Click(135);
   events.Seen.clear();
   screen.DoubleClick();
@@ -258,23 +255,18 @@ TEST_F(Hexagon, PersistsFiveKeysInOrderAndReadsThemBack) {
   ColorHexagon loaded{host.Runtime, otherScreen, label, site, otherEvents};
   loaded.UserControl_ReadProperties(bag);
   EXPECT_EQ(bag.ReadOrder, keys);
-  EXPECT_FALSE(loaded.IsAutomatic());
-  EXPECT_EQ(loaded.AutomaticText(), "Auto");
-  EXPECT_EQ(loaded.AutoColor(), 0x123456);
-  EXPECT_EQ(loaded.Color(), 0xFFFFFF);
-  EXPECT_EQ(loaded.BackColor(), 0xFFFFFF);
+  EXPECT_EQ(std::tuple(loaded.IsAutomatic(), loaded.AutomaticText(), loaded.AutoColor(), loaded.Color()),
+            std::tuple(false, "Auto", 0x123456, 0xFFFFFF));
+  EXPECT_EQ(std::pair(loaded.BackColor(), otherScreen.BackColor()), std::pair(0xFFFFFF, 0xFFFFFF));
   EXPECT_EQ(loaded.SelectedCell()->Index(), 64);  // the refresh marks the loaded colour
-  EXPECT_EQ(otherScreen.BackColor(), 0xFFFFFF);
 }
 
 TEST_F(Hexagon, ResizeSnapsToTheSurfaceAndTheLabelUnderIt) {
   site.Size(9000, 9000);
   hexagon.UserControl_Resize();
   EXPECT_EQ(screen.CallsOf("Move").back().Args, (std::vector<std::int32_t>{0, 0, 3585, 3735}));
-  EXPECT_EQ(label.Left(), 0);
-  EXPECT_EQ(label.Top(), 3735);
-  EXPECT_EQ(site.WidthTwips, 3585);
-  EXPECT_EQ(site.HeightTwips, 3735 + label.Height());
+  EXPECT_EQ(std::pair(label.Left(), label.Top()), std::pair(0, 3735));
+  EXPECT_EQ(std::pair(site.WidthTwips, site.HeightTwips), std::pair(3585, 3735 + label.Height()));
 }
 
 }  // namespace

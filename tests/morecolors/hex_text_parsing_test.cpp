@@ -1,89 +1,78 @@
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <tuple>
 
 #include "PopupFixture.h"
-#include "colormodel/CColorboxEl.h"
+#include "morecolors/HexColorParser.h"
 
 namespace lumo {
 namespace {
 
 using testing::PopupFixture;
 
-struct Typed {
-  const char* name;
+struct Spelling {
   const char* text;
-  OLE_COLOR color;
-  friend void PrintTo(const Typed& t, std::ostream* os) { *os << '"' << t.text << '"'; }
+  std::optional<OLE_COLOR> color;
+  friend void PrintTo(const Spelling& s, std::ostream* os) { *os << '"' << s.text << '"'; }
 };
 
-std::string CaseName(const ::testing::TestParamInfo<Typed>& info) { return info.param.name; }
+class HexSpelling : public ::testing::TestWithParam<Spelling> {
+ protected:
+  testing::TestHost host;
+};
 
-class AcceptedHexText : public PopupFixture, public ::testing::WithParamInterface<Typed> {};
-
-TEST_P(AcceptedHexText, SetsTheTypedColourAndClearsAutomatic) {
-  dialog.SetIsAutomatic(false);
-  Type(GetParam().text);
-  EXPECT_FALSE(dialog.IsAutomatic());
-  EXPECT_EQ(dialog.Color(), GetParam().color);
-  EXPECT_EQ(Swatch("picNew"), GetParam().color);
-  CColorboxEl typed(host.Errors());
-  typed.SetColor(GetParam().color);
-  EXPECT_EQ(BoxText(), "Hex={" + typed.GetColorString() + "}");
+TEST_P(HexSpelling, ReadsThreeHexComponentsInAnyDecorationAndNothingElse) {
+  EXPECT_EQ(HexColorParser(host.Errors()).Parse(GetParam().text), GetParam().color);
   EXPECT_TRUE(host.Messages.Shown.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Forms, AcceptedHexText,
-    ::testing::Values(Typed{"Plain", "FF,80,0", RGB(0xFF, 0x80, 0)},
-                      Typed{"OwnFormLowerCase", "hex={ff, 80, 00}", RGB(0xFF, 0x80, 0)},
-                      Typed{"SpacedSingleDigits", "Hex = { 0A , B , C }", RGB(0x0A, 0x0B, 0x0C)},
-                      Typed{"White", "ff,ff,ff", 0xFFFFFF}, Typed{"Black", "0,0,0", 0},
-                      Typed{"NotInTheTable", "HEX{1,2,3}", RGB(1, 2, 3)}),
-    CaseName);
+    Texts, HexSpelling,
+    ::testing::Values(Spelling{"FF,80,0", RGB(0xFF, 0x80, 0)}, Spelling{"hex={ff, 80, 00}", RGB(0xFF, 0x80, 0)},
+                      Spelling{"Hex = { 0A , B , C }", RGB(0x0A, 0x0B, 0x0C)}, Spelling{"ff,ff,ff", 0xFFFFFF},
+                      Spelling{"0,0,0", 0}, Spelling{"HEX{1,2,3}", RGB(1, 2, 3)}, Spelling{"#FF8000", {}},
+                      Spelling{"&hFF8000", {}}, Spelling{"255,128,0", {}}, Spelling{"FF", {}}, Spelling{"1,2", {}},
+                      Spelling{"1,2,3,4", {}}, Spelling{"100,0,0", {}}, Spelling{"G0,0,0", {}},
+                      Spelling{",0,0", {}}, Spelling{"-1,0,0", {}}));
 
-class RejectedHexText : public PopupFixture, public ::testing::WithParamInterface<Typed> {};
+// What the box does with its text when it loses the focus, starting from white.
+struct Typed {
+  const char* name;
+  bool allowAutomatic, startAutomatic;
+  const char* text;
+  bool endAutomatic;
+  OLE_COLOR color;
+  const char* boxText;
+  friend void PrintTo(const Typed& t, std::ostream* os) { *os << t.name; }
+};
 
-TEST_P(RejectedHexText, FallsBackToAutomaticAndWritesTheAutomaticText) {
-  dialog.SetAllowAutomatic(true);
+class TypedText : public PopupFixture, public ::testing::WithParamInterface<Typed> {};
+
+TEST_P(TypedText, SetsTheTypedColourOrFallsBack) {
+  const Typed& t = GetParam();
+  dialog.SetAllowAutomatic(t.allowAutomatic);
   dialog.SetAutomaticText("Automatic");
   dialog.SetIsAutomatic(false);
   dialog.SetColor(0xFFFFFF);
-  Type(GetParam().text);
-  EXPECT_TRUE(dialog.IsAutomatic());
-  EXPECT_EQ(BoxText(), "Automatic");
-  EXPECT_EQ(dialog.Color(), 0xFFFFFF);
+  dialog.SetIsAutomatic(t.startAutomatic);
+  Type(t.text);
+  EXPECT_EQ(std::tuple(dialog.IsAutomatic(), dialog.Color(), BoxText()),
+            std::tuple(t.endAutomatic, t.color, std::string(t.boxText)));
+  if (!t.endAutomatic) EXPECT_EQ(Swatch("picNew"), t.color);
   EXPECT_TRUE(host.Messages.Shown.empty());
 }
 
+// The automatic text is written first when automatic is not allowed; the hexagon's
+// ColorChanged for black follows.
 INSTANTIATE_TEST_SUITE_P(
-    Forms, RejectedHexText,
-    ::testing::Values(Typed{"HashForm", "#FF8000", 0}, Typed{"AmpersandH", "&hFF8000", 0},
-                      Typed{"DecimalIsReadAsHex", "255,128,0", 0}, Typed{"OneNumber", "FF", 0},
-                      Typed{"TwoParts", "1,2", 0}, Typed{"FourParts", "1,2,3,4", 0},
-                      Typed{"Over255", "100,0,0", 0}, Typed{"NotHex", "G0,0,0", 0},
-                      Typed{"EmptyPart", ",0,0", 0}, Typed{"Negative", "-1,0,0", 0}),
-    CaseName);
-
-TEST_F(PopupFixture, FallbackWithoutAutomaticGivesBlack) {
-  dialog.SetAutomaticText("Automatic");
-  dialog.SetIsAutomatic(false);
-  dialog.SetColor(0xFFFFFF);
-  Type("nonsense");
-  EXPECT_FALSE(dialog.IsAutomatic());
-  EXPECT_EQ(dialog.Color(), 0);
-  // The automatic text is written first; the hexagon's ColorChanged for black follows.
-  EXPECT_EQ(BoxText(), "Hex={00,00,00}");
-}
-
-TEST_F(PopupFixture, WhileAutomaticEvenAValidTextIsReplaced) {
-  dialog.SetAllowAutomatic(true);
-  dialog.SetAutomaticText("Auto");
-  Type("ff,0,0");
-  EXPECT_TRUE(dialog.IsAutomatic());
-  EXPECT_EQ(BoxText(), "Auto");
-  EXPECT_EQ(dialog.Color(), ColorHexagon::DefaultColor);
-}
+    Outcomes, TypedText,
+    ::testing::Values(Typed{"AColourNotInTheHoneycomb", true, false, "HEX{1,2,3}", false, RGB(1, 2, 3), "Hex={01,02,03}"},
+                      Typed{"NoColourFallsBackToAutomatic", true, false, "#FF8000", true, 0xFFFFFF, "Automatic"},
+                      Typed{"NoColourWithoutAutomaticGivesBlack", false, false, "nonsense", false, 0, "Hex={00,00,00}"},
+                      Typed{"WhileAutomaticEvenAColourIsReplaced", true, true, "ff,0,0", true, 0xFFFFFF, "Automatic"}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(PopupFixture, AThreeDigitComponentInRangeIsReportedAndChangesNothing) {
   dialog.SetIsAutomatic(false);
