@@ -10,6 +10,7 @@
 #include "colorbox/ColorBox.h"
 #include "colorbox/ColorBoxEvents.h"
 #include "colorbox/ColorBoxKeyboard.h"
+#include "colorbox/ColorBoxPainter.h"
 #include "colormodel/Enums.h"
 #include "colormodel/TextRules.h"
 #include "support/MemoryPropertyBag.h"
@@ -30,7 +31,13 @@ class ColorBoxHarness : public ::testing::Test, public ColorBoxEvents {
  protected:
   // Made here rather than in a member initialiser, so that the Resize raised while
   // the control is being created finds `box` still empty.
-  ColorBoxHarness() { box = std::make_unique<ColorBox>(host.Runtime, surface, site, *this); }
+  ColorBoxHarness() { Recreate(); }
+
+  // A fresh control on the same host, surface and site, so that table rows start alike.
+  void Recreate() {
+    box.reset();
+    box = std::make_unique<ColorBox>(host.Runtime, surface, site, *this);
+  }
 
   void OverColor(OLE_COLOR lColor, bool bOverAutomatic) override {
     Raised("OverColor " + text::Hex(lColor) + (bOverAutomatic ? " auto" : ""));
@@ -55,19 +62,35 @@ class ColorBoxHarness : public ::testing::Test, public ColorBoxEvents {
     return {cell->BoundLeft() + 6, cell->BoundTop() + 6};
   }
   static Point Centre(const Rect& r) { return {(r.Left + r.Right) / 2, (r.Top + r.Bottom) / 2}; }
+  Rect Bounds(std::int32_t index) const {
+    const auto c = box->Cells()->Item(index);
+    return {c->BoundLeft(), c->BoundTop(), c->BoundRight(), c->BoundBottom()};
+  }
+  Rect Frame(std::int32_t index) const { return ColorBoxPainter::FrameArea(Bounds(index).Left, Bounds(index).Top); }
   void MoveTo(Point p) { surface.MouseMove(p.X, p.Y); }
   void ClickAt(Point p) { surface.Click(p.X, p.Y); }
+  // Puts the keyboard focus in a zone (on cell `index` for the grid) the way the pointer
+  // does, coming from outside so that the move always lands on something new.
+  void Focus(std::int32_t zone, std::int32_t index = 0) {
+    MoveTo({-1, -1});
+    if (zone == focuszone::Automatic) MoveTo(Centre(box->AutoRect()));
+    if (zone == focuszone::Grid) MoveTo(CellCentre(index));
+    if (zone == focuszone::MoreColors) MoveTo(Centre(box->MoreRect()));
+    ASSERT_EQ(box->FocusZone(), zone);
+    Log.clear();
+    surface.ClearCalls();
+  }
   Lines Messages() const {
     Lines prompts;
     for (const auto& m : host.Messages.Shown) prompts.push_back(m.Prompt);
     return prompts;
   }
-  // The recorded calls of `op` drawn at exactly this rectangle.
+  // The recorded calls of `op` (every op when empty) drawn at exactly this rectangle.
   std::vector<SurfaceCall> CallsAt(const std::string& op, const Rect& r) const {
     std::vector<SurfaceCall> found;
-    for (const auto& call : surface.CallsOf(op)) {
-      if (std::vector<std::int32_t>(call.Args.begin(), call.Args.begin() + 4) ==
-          std::vector<std::int32_t>{r.Left, r.Top, r.Right, r.Bottom}) {
+    for (const auto& call : surface.Calls) {
+      if (call.Args.size() >= 4 && Rect{call.Args[0], call.Args[1], call.Args[2], call.Args[3]} == r &&
+          (op.empty() || call.Op == op)) {
         found.push_back(call);
       }
     }

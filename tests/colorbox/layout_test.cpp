@@ -3,23 +3,91 @@
 #include <vector>
 
 #include "ColorBoxHarness.h"
-#include "colorbox/ColorBoxPainter.h"
 
 namespace lumo {
 namespace {
 
-using testing::ColorBoxHarness;
 using testing::kTextHeight;
 using Args = std::vector<std::int32_t>;
 
-class ColorBoxDrawing : public ColorBoxHarness {
- protected:
-  Rect Bounds(std::int32_t i) const {
-    const auto c = box->Cells()->Item(i);
-    return {c->BoundLeft(), c->BoundTop(), c->BoundRight(), c->BoundBottom()};
+class ColorBoxDrawing : public testing::ColorBoxHarness {};
+
+// Width: 12 per column, 6 per gap, 8 of border. Height: 18 per row + 2, the text
+// height (17) for Automatic, text height + 4 for More Colors, 4 per ";" of the
+// row-gap marker, 8 of border.
+TEST_F(ColorBoxDrawing, StyleReplacesTheCellsAndSizesSurfaceAndControlToThem) {
+  const struct {
+    std::int32_t style, cells;
+    std::int32_t width, height;  // pixels, with both buttons
+    OLE_COLOR step;              // for the ramps: the colour added from one cell to the next
+  } palettes[] = {{cpsStandard, 16, 146, 84, 0},           {cpsStandardWithBW, 32, 146, 128, 0},
+                  {cpsGreyScale16, 16, 146, 84, 0x101010}, {cpsGreyScale256, 256, 290, 336, 0x010101},
+                  {cpsPalette48, 48, 146, 156, 0},         {cpsPalette48WithBW, 64, 146, 200, 0},
+                  {cpsPalette256, 256, 290, 336, 0},       {cpsPalette256WithBW, 272, 290, 362, 0},
+                  {cpsPaletteRed256, 256, 290, 336, 0x01}, {cpsPaletteGreen256, 256, 290, 336, 0x0100},
+                  {cpsPaletteBlue256, 256, 290, 336, 0x010000}, {cpsPaletteRed16, 16, 146, 84, 0x10},
+                  {cpsPaletteGreen16, 16, 146, 84, 0x1000}, {cpsPaletteBlue16, 16, 146, 84, 0x100000},
+                  {cpsPalette40, 40, 146, 138, 0}};
+  for (const auto& p : palettes) {
+    Recreate();
+    box->SetPickStyle(p.style);
+    EXPECT_EQ(box->Cells()->Count(), p.cells) << p.style;
+    EXPECT_EQ(surface.CallsOf("Move").back().Args, (Args{0, 0, p.width * 15, p.height * 15})) << p.style;
+    EXPECT_EQ((Args{site.WidthTwips, site.HeightTwips}), (Args{p.width * 15, p.height * 15})) << p.style;
+    OLE_COLOR ramp = 0;
+    for (const CellPtr& cell : *box->Cells()) {
+      EXPECT_TRUE(p.step == 0 || cell->Color() == ramp) << p.style << "/" << cell->Index();
+      ramp += p.step;
+    }
   }
-  Rect Frame(std::int32_t i) const { return ColorBoxPainter::FrameArea(Bounds(i).Left, Bounds(i).Top); }
-};
+}
+
+TEST_F(ColorBoxDrawing, UnnamedCellsAreNamedAfterTheirColour) {
+  box->SetPickStyle(cpsPalette48);
+  EXPECT_EQ(box->Cells()->GetObjectByColor(RGB(0xFF, 0x82, 0x84))->Name(), "#FF8284 (FF,82,84)");
+  EXPECT_EQ(box->Cells()->Item(1)->Name(), "White");
+}
+
+TEST_F(ColorBoxDrawing, EachButtonAddsItsHeightAndTheRowGapMarkerOutlivesItsPalette) {
+  box->SetPickStyle(cpsStandardWithBW);
+  const struct {
+    bool automatic, more;
+    std::int32_t height;
+  } cases[] = {{false, false, 90}, {true, false, 107}, {false, true, 111}, {true, true, 128}};
+  for (const auto& c : cases) {
+    box->SetAllowAutomatic(c.automatic);
+    box->SetAllowMoreColors(c.more);
+    EXPECT_EQ(surface.ScaleHeight(), c.height) << c.automatic << c.more;
+  }
+  box->SetPickStyle(cpsStandard);  // a style without a grey row keeps the marker and its height
+  EXPECT_EQ(box->Cells()->Count(), 16);
+  EXPECT_EQ(box->RowGapMarker(), ";2;");
+  EXPECT_EQ(surface.ScaleHeight(), 84 + 8);
+}
+
+TEST_F(ColorBoxDrawing, UnknownStyleKeepsThePaletteAndMinusOneStopsRefreshAltogether) {
+  box->SetPickStyle(cpsPalette40);
+  box->SetPickStyle(15);
+  EXPECT_EQ(box->PickStyle(), 15);
+  EXPECT_EQ(box->Cells()->Count(), 40);
+  EXPECT_EQ(Resizes, 3);  // creation and two styles: each Refresh still draws
+  box->SetPickStyle(-1);
+  surface.ClearCalls();
+  box->Refresh();
+  box->SetColor(0xFF);
+  EXPECT_TRUE(surface.Calls.empty());
+  EXPECT_EQ(Resizes, 3);
+  box->SetPickStyle(cpsStandard);
+  EXPECT_EQ(box->Cells()->Count(), 16);
+}
+
+TEST(ColorBoxStrCount, CountsOccurrencesAndFailsOnAnEmptySearchText) {
+  EXPECT_EQ(ColorBox::StrCount(";2;", ";", 1), 2);
+  EXPECT_EQ(ColorBox::StrCount(";16;", ";2;", 1), 0);
+  EXPECT_EQ(ColorBox::StrCount("aAbA", "a", 1), 3);
+  EXPECT_EQ(ColorBox::StrCount("aAbA", "a", 0), 1);
+  EXPECT_THROW(ColorBox::StrCount(";2;", "", 1), RuntimeError);
+}
 
 TEST_F(ColorBoxDrawing, MarkedRowDropsFourPixelsWithAnEtchedLineFromXOneInTheGap) {
   box->SetAllowAutomatic(false);
@@ -31,10 +99,9 @@ TEST_F(ColorBoxDrawing, MarkedRowDropsFourPixelsWithAnEtchedLineFromXOneInTheGap
   EXPECT_EQ(Bounds(25).Top - Bounds(17).Top, 18);
   const auto lines = surface.CallsOf("Line");
   ASSERT_EQ(lines.size(), 2u);
+  EXPECT_EQ((Args{lines[0].ForeColor, lines[1].ForeColor}), (Args{sys::ButtonShadow, sys::ButtonHighlight}));
   EXPECT_EQ(lines[0].Args, (Args{1, 39, 139, 39}));
-  EXPECT_EQ(lines[0].ForeColor, sys::ButtonShadow);
   EXPECT_EQ(lines[1].Args, (Args{1, 40, 139, 40}));
-  EXPECT_EQ(lines[1].ForeColor, sys::ButtonHighlight);
   EXPECT_TRUE(Frame(9).Bottom <= 39 && Frame(17).Top > 40);
 }
 
@@ -42,30 +109,26 @@ TEST_F(ColorBoxDrawing, EverySquareIsErasedFilledOutlinedAndRemembersItsBounds) 
   surface.ClearCalls();
   box->SetPickStyle(cpsPalette40);
   for (std::int32_t i = 1; i <= 40; ++i) {
-    const Rect b = Bounds(i);
-    EXPECT_EQ(b.Right - b.Left, 12);
-    const auto squares = CallsAt("Rectangle", b);
+    const auto squares = CallsAt("Rectangle", Bounds(i));
     ASSERT_EQ(squares.size(), 1u) << i;
-    EXPECT_EQ(squares[0].FillColor, box->Cells()->Item(i)->Color());
-    EXPECT_EQ(squares[0].ForeColor, sys::ButtonShadow);
-    EXPECT_EQ(squares[0].FillStyle, fill::Solid);
+    EXPECT_EQ(Bounds(i).Right - Bounds(i).Left, 12);
+    EXPECT_EQ((Args{squares[0].FillColor, squares[0].ForeColor, squares[0].FillStyle}),
+              (Args{box->Cells()->Item(i)->Color(), sys::ButtonShadow, fill::Solid}));
     EXPECT_EQ(CallsAt("Rectangle", Frame(i)).at(0).FillColor, sys::ButtonFace);
   }
 }
 
 TEST_F(ColorBoxDrawing, EveryCellOfTheSelectedColourGetsASunkenFrameAndTheHotCellARaisedOne) {
-  struct Case {
+  const struct {
     std::int32_t style, cell, frames;
-  };
-  for (const Case c : {Case{cpsStandard, 14, 1}, Case{cpsPalette256, 1, 41}, Case{cpsPalette256, 161, 2},
-                       Case{cpsPalette256WithBW, 257, 2}}) {
+  } cases[] = {{cpsStandard, 14, 1}, {cpsPalette256, 1, 41}, {cpsPalette256, 161, 2}, {cpsPalette256WithBW, 257, 2}};
+  for (const auto& c : cases) {
     box->SetPickStyle(c.style);
     surface.ClearCalls();
     box->SetColor(box->Cells()->Item(c.cell)->Color());
+    const Rect f = Frame(c.cell);
     EXPECT_EQ(surface.CountOf("DrawEdge"), c.frames) << c.style << "/" << c.cell;
-    EXPECT_EQ(CallsAt("DrawEdge", Frame(c.cell)).at(0).Args, (Args{Frame(c.cell).Left, Frame(c.cell).Top,
-                                                                  Frame(c.cell).Right, Frame(c.cell).Bottom,
-                                                                  edge::SunkenOuter, edge::AllSides}));
+    EXPECT_EQ(CallsAt("DrawEdge", f).at(0).Args, (Args{f.Left, f.Top, f.Right, f.Bottom, edge::SunkenOuter, edge::AllSides}));
   }
   MoveTo(CellCentre(5));
   EXPECT_EQ(CallsAt("DrawEdge", Frame(5)).back().Args[4], edge::RaisedInner);

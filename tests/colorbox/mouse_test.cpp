@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -12,59 +11,39 @@ namespace {
 using testing::ColorBoxHarness;
 using testing::Lines;
 
-enum class Spot { Automatic, MoreColors, Green, Gap, Outside };
-
-struct PressRelease {
-  const char* name;
-  Spot press, release;
-  std::int16_t button;
-  Lines events;
-  bool cancelled;  // PopupResult left as one false entry
-};
-void PrintTo(const PressRelease& c, std::ostream* os) { *os << c.name; }
-
-class ColorBoxMouse : public ColorBoxHarness, public ::testing::WithParamInterface<PressRelease> {
- protected:
-  Point At(Spot spot) const {
-    switch (spot) {
-      case Spot::Automatic: return Centre(box->AutoRect());
-      case Spot::MoreColors: return Centre(box->MoreRect());
-      case Spot::Green: return CellCentre(3);  // 008200 "Green"
-      case Spot::Gap: return {CellCentre(1).X + 9, CellCentre(1).Y};
-      case Spot::Outside: return {-4, surface.ScaleHeight() + 5};
-    }
-    return {};
-  }
-};
+class ColorBoxPointer : public ColorBoxHarness {};
 
 // A cell needs only the release over it; the two buttons need press and release.
-TEST_P(ColorBoxMouse, PressAndReleaseDecideWhatIsChosen) {
-  const PressRelease& c = GetParam();
-  host.Runtime.ReDimPopupResult(4);
-  surface.MouseDown(At(c.press).X, At(c.press).Y, c.button);
-  surface.MouseUp(At(c.release).X, At(c.release).Y, c.button);
-  EXPECT_EQ(Log, c.events);
-  const std::vector<Variant> untouched(4), cancelled{Variant(false)};
-  EXPECT_EQ(host.Runtime.PopupResult(), c.cancelled ? cancelled : untouched);
+TEST_F(ColorBoxPointer, PressAndReleaseDecideWhatIsChosen) {
+  const Point automatic = Centre(box->AutoRect()), more = Centre(box->MoreRect()), green = CellCentre(3);
+  const Point gap{CellCentre(1).X + 9, CellCentre(1).Y}, outside{-4, surface.ScaleHeight() + 5};
+  const struct {
+    Point press, release;
+    std::int16_t button;
+    Lines events;
+    bool cancelled;  // PopupResult left as one false entry
+  } cases[] = {{automatic, automatic, mouse::Left, {"Click 663300  auto"}, false},
+               {green, green, mouse::Left, {"Click 8200 Green"}, false},
+               {automatic, green, mouse::Left, {"Click 8200 Green"}, false},
+               {green, automatic, mouse::Left, {}, false},
+               {more, more, mouse::Left, {"MoreColorClick"}, false},
+               {green, more, mouse::Left, {}, false},
+               {gap, gap, mouse::Left, {}, false},
+               {green, outside, mouse::Left, {"UserCancel"}, true},
+               {outside, outside, mouse::Left, {"UserCancel", "UserCancel"}, true},
+               {green, green, mouse::Right, {}, false},
+               {green, outside, mouse::Right, {"UserCancel"}, true}};
+  for (const auto& c : cases) {
+    Recreate();
+    Log.clear();
+    host.Runtime.ReDimPopupResult(4);
+    surface.MouseDown(c.press.X, c.press.Y, c.button);
+    surface.MouseUp(c.release.X, c.release.Y, c.button);
+    EXPECT_EQ(Log, c.events) << c.press.X << "," << c.press.Y << " to " << c.release.X << "," << c.release.Y;
+    const std::vector<Variant> untouched(4), cancelled{Variant(false)};
+    EXPECT_EQ(host.Runtime.PopupResult(), c.cancelled ? cancelled : untouched);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    LeftAndRightButton, ColorBoxMouse,
-    ::testing::Values(
-        PressRelease{"AutomaticToAutomatic", Spot::Automatic, Spot::Automatic, mouse::Left, {"Click 663300  auto"}, false},
-        PressRelease{"CellToCell", Spot::Green, Spot::Green, mouse::Left, {"Click 8200 Green"}, false},
-        PressRelease{"AutomaticToCell", Spot::Automatic, Spot::Green, mouse::Left, {"Click 8200 Green"}, false},
-        PressRelease{"CellToAutomatic", Spot::Green, Spot::Automatic, mouse::Left, {}, false},
-        PressRelease{"MoreToMore", Spot::MoreColors, Spot::MoreColors, mouse::Left, {"MoreColorClick"}, false},
-        PressRelease{"CellToMore", Spot::Green, Spot::MoreColors, mouse::Left, {}, false},
-        PressRelease{"GapToGap", Spot::Gap, Spot::Gap, mouse::Left, {}, false},
-        PressRelease{"CellToOutside", Spot::Green, Spot::Outside, mouse::Left, {"UserCancel"}, true},
-        PressRelease{"OutsideToOutside", Spot::Outside, Spot::Outside, mouse::Left, {"UserCancel", "UserCancel"}, true},
-        PressRelease{"RightOnCell", Spot::Green, Spot::Green, mouse::Right, {}, false},
-        PressRelease{"RightToOutside", Spot::Green, Spot::Outside, mouse::Right, {"UserCancel"}, true}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-class ColorBoxPointer : public ColorBoxHarness {};
 
 TEST_F(ColorBoxPointer, ChoosingStoresTheCellAndTheClickHandlerOnlyGetsCopies) {
   WhileClick = [](OLE_COLOR& color, bool& automatic) { color = 1, automatic = !automatic; };
@@ -99,17 +78,6 @@ TEST_F(ColorBoxPointer, HoverMakesACellHotOnceAndLeavingItRepaintsItPlain) {
   EXPECT_EQ(Guarded, std::vector<bool>(Guarded.size(), true));
 }
 
-TEST_F(ColorBoxPointer, UnnamedCellsAreNamedAfterTheirColourForTipAndColorName) {
-  box->SetPickStyle(cpsPalette48);
-  const auto pink = box->Cells()->GetObjectByColor(RGB(0xFF, 0x82, 0x84));
-  EXPECT_EQ(pink->Name(), "#FF8284 (FF,82,84)");
-  MoveTo(CellCentre(pink->Index()));
-  EXPECT_EQ(surface.ToolTipText(), "#FF8284 (FF,82,84)");
-  ClickAt(CellCentre(pink->Index()));
-  EXPECT_EQ(box->ColorName(), "#FF8284 (FF,82,84)");
-  EXPECT_EQ(box->Cells()->Item(1)->Name(), "White");
-}
-
 TEST_F(ColorBoxPointer, LosingFocusCancelsExceptWhileTheControlRaisesAnEvent) {
   WhileClick = [this](OLE_COLOR&, bool&) { surface.LoseFocus(); };
   ClickAt(CellCentre(3));
@@ -134,11 +102,9 @@ TEST_F(ColorBoxPointer, ShowAndQuickMovesTakeTheCaptureForTheSurface) {
 }
 
 struct TipCase {
-  const char* name;
-  double rest;                   // seconds from the last move to the tick
+  double rest;  // seconds from the last move to the tick
   bool captured, onSurface, shown;
 };
-void PrintTo(const TipCase& c, std::ostream* os) { *os << c.name; }
 
 class ColorBoxToolTip : public ColorBoxHarness, public ::testing::WithParamInterface<TipCase> {};
 
@@ -161,11 +127,8 @@ TEST_P(ColorBoxToolTip, TimerReleasesTheCaptureAndReshowsTheTipAfterHalfASecondO
 }
 
 INSTANTIATE_TEST_SUITE_P(RestCaptureAndPlace, ColorBoxToolTip,
-                         ::testing::Values(TipCase{"Rested", 0.75, true, true, true},
-                                           TipCase{"HalfASecondIsNotEnough", 0.5, true, true, false},
-                                           TipCase{"NoCapture", 0.75, false, true, false},
-                                           TipCase{"PointerOffTheSurface", 0.75, true, false, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         ::testing::Values(TipCase{0.75, true, true, true}, TipCase{0.5, true, true, false},
+                                           TipCase{0.75, false, true, false}, TipCase{0.75, true, false, false}));
 
 }  // namespace
 }  // namespace lumo

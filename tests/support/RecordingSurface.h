@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "colormodel/DrawingSurface.h"
+#include "colormodel/SurfaceEvents.h"
 
 namespace lumo::testing {
 
@@ -33,13 +34,21 @@ class RecordingSurface : public DrawingSurface {
   void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) override;
   double TextWidth(const std::string& text) const override;
   double TextHeight(const std::string& text) const override;
-  void PaintPicture(const DrawingSurface& source, std::int32_t x, std::int32_t y) override;
-  void Refresh() override;
-  void Rectangle(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) override;
+  void PaintPicture(const DrawingSurface& source, std::int32_t x, std::int32_t y) override {
+    Record("PaintPicture", {static_cast<std::int32_t>(source.hWnd()), x, y});
+  }
+  void Refresh() override { Record("Refresh", {}); }
+  void Rectangle(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) override {
+    Record("Rectangle", {left, top, right, bottom});
+  }
   void Polygon(const std::vector<Point>& points) override;
-  void DrawEdge(const Rect& rect, std::int32_t edgeKind, std::int32_t flags) override;
-  void DrawFocusRect(const Rect& rect) override;
-  void DrawTextA(const std::string& text, const Rect& rect, std::int32_t format) override;
+  void DrawEdge(const Rect& r, std::int32_t edgeKind, std::int32_t flags) override {
+    Record("DrawEdge", {r.Left, r.Top, r.Right, r.Bottom, edgeKind, flags});
+  }
+  void DrawFocusRect(const Rect& r) override { Record("DrawFocusRect", {r.Left, r.Top, r.Right, r.Bottom}); }
+  void DrawTextA(const std::string& text, const Rect& r, std::int32_t format) override {
+    Record("DrawTextA", {r.Left, r.Top, r.Right, r.Bottom, format}, text);
+  }
 
   // --- for tests ---
   std::vector<SurfaceCall> Calls;
@@ -48,20 +57,38 @@ class RecordingSurface : public DrawingSurface {
   double LineHeight = 13.0;
   void ClearCalls() { Calls.clear(); }
   std::vector<SurfaceCall> CallsOf(const std::string& op) const;
-  std::int32_t CountOf(const std::string& op) const;
-  // Input, delivered to the listener as the host would.
-  void MouseDown(double x, double y, std::int16_t button = 1, std::int16_t shift = 0);
-  void MouseMove(double x, double y, std::int16_t button = 0, std::int16_t shift = 0);
-  void MouseUp(double x, double y, std::int16_t button = 1, std::int16_t shift = 0);
-  void Click(double x, double y);  // press and release at one point
-  void DoubleClick();
-  void Key(std::int16_t keyCode, std::int16_t shift = 0);
-  void LoseFocus();
+  std::int32_t CountOf(const std::string& op) const { return static_cast<std::int32_t>(CallsOf(op).size()); }
+  // Input, delivered to the listener (when there is one) as the host would.
+  void MouseDown(double x, double y, std::int16_t button = 1, std::int16_t shift = 0) {
+    if (Listener() != nullptr) Listener()->MouseDown(button, shift, x, y);
+  }
+  void MouseMove(double x, double y, std::int16_t button = 0, std::int16_t shift = 0) {
+    if (Listener() != nullptr) Listener()->MouseMove(button, shift, x, y);
+  }
+  void MouseUp(double x, double y, std::int16_t button = 1, std::int16_t shift = 0) {
+    if (Listener() != nullptr) Listener()->MouseUp(button, shift, x, y);
+  }
+  // Press and release at one point.
+  void Click(double x, double y) {
+    MouseDown(x, y);
+    MouseUp(x, y);
+  }
+  void DoubleClick() {
+    if (Listener() != nullptr) Listener()->DblClick();
+  }
+  void Key(std::int16_t keyCode, std::int16_t shift = 0) {
+    if (Listener() != nullptr) Listener()->KeyDown(keyCode, shift);
+  }
+  void LoseFocus() {
+    if (Listener() != nullptr) Listener()->LostFocus();
+  }
 
  protected:
-  void ClearSurface() override;
-  void DrawLine(Point from, Point to) override;
-  void DrawPrintedText(double x, double y, const std::string& text) override;
+  void ClearSurface() override { Record("Cls", {}); }
+  void DrawLine(Point from, Point to) override { Record("Line", {from.X, from.Y, to.X, to.Y}); }
+  void DrawPrintedText(double x, double y, const std::string& text) override {
+    Record("Print", {static_cast<std::int32_t>(x), static_cast<std::int32_t>(y)}, text);
+  }
   void ToolTipChanged() override { ToolTipAssignments.push_back(ToolTipText()); }
 
  private:

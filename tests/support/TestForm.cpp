@@ -39,30 +39,6 @@ void TestForm::UnloadWithMode(std::int32_t mode) {
   events_.Form_Unload();
 }
 
-RecordingSurface& TestForm::RecordingSurfaceNamed(const std::string& name) {
-  auto& slot = surfaces_[name];
-  if (!slot) slot = std::make_unique<RecordingSurface>();
-  return *slot;
-}
-
-RecordingSite& TestForm::SiteNamed(const std::string& name) {
-  auto& slot = sites_[name];
-  if (!slot) slot = std::make_unique<RecordingSite>();
-  return *slot;
-}
-
-TestTextBox& TestForm::TextBoxNamed(const std::string& name) {
-  auto& slot = textBoxes_[name];
-  if (!slot) slot = std::make_unique<TestTextBox>();
-  return *slot;
-}
-
-TestLabel& TestForm::TestLabelNamed(const std::string& name) {
-  auto& slot = labels_[name];
-  if (!slot) slot = std::make_unique<TestLabel>();
-  return *slot;
-}
-
 void TestForm::ClickControl(const std::string& control, std::int32_t index) {
   events_.ControlClick(control, index);
 }

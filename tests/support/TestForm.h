@@ -49,10 +49,10 @@ class TestForm : public FormWindow {
 
   // --- for tests ---
   const std::string& Name() const { return name_; }
-  RecordingSurface& RecordingSurfaceNamed(const std::string& name);
-  RecordingSite& SiteNamed(const std::string& name);
-  TestTextBox& TextBoxNamed(const std::string& name);
-  TestLabel& TestLabelNamed(const std::string& name);
+  RecordingSurface& RecordingSurfaceNamed(const std::string& name) { return Child(surfaces_, name); }
+  RecordingSite& SiteNamed(const std::string& name) { return Child(sites_, name); }
+  TestTextBox& TextBoxNamed(const std::string& name) { return Child(textBoxes_, name); }
+  TestLabel& TestLabelNamed(const std::string& name) { return Child(labels_, name); }
   void ClickControl(const std::string& control, std::int32_t index = 0);
   void LeaveControl(const std::string& control);
   void CloseFromTitleBar() { UnloadWithMode(unloadmode::ControlMenu); }
@@ -68,6 +68,13 @@ class TestForm : public FormWindow {
   static constexpr std::int32_t BorderTwips = 60;
 
  private:
+  // The child of that name, made on first use.
+  template <class T>
+  static T& Child(std::map<std::string, std::unique_ptr<T>>& children, const std::string& name) {
+    auto& slot = children[name];
+    if (!slot) slot = std::make_unique<T>();
+    return *slot;
+  }
   void UnloadWithMode(std::int32_t mode);
 
   std::string name_;
