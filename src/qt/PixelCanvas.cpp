@@ -77,7 +77,7 @@ void PixelCanvas::line(lumo::Point from, lumo::Point to, QRgb color, int penWidt
     straightLine(from, to, color, penWidth);
     return;
   }
-  for (const lumo::Point& pixel : Rasterizer::line(from, to)) plot(pixel.X, pixel.Y, color, penWidth);
+  Rasterizer::line(from, to, [&](int x, int y) { plot(x, y, color, penWidth); });
 }
 
 void PixelCanvas::invertCheckerboard(int left, int top, int right, int bottom) {

@@ -246,9 +246,8 @@ void SurfaceWidget::Polygon(const std::vector<lumo::Point>& points) {
   if (FillStyle() == lumo::fill::Solid) {
     PixelCanvas canvas(backing());
     const QRgb fill = rgb(FillColor());
-    for (const PixelRun& run : Rasterizer::polygonInterior(points, 0, height())) {
-      canvas.fillRect(run.First, run.Y, run.Last, run.Y + 1, fill);
-    }
+    Rasterizer::polygonInterior(points, 0, height(),
+                                [&](int y, int first, int last) { canvas.fillRect(first, y, last, y + 1, fill); });
   }
   // Each side leaves out its end point, which is the start of the next side, so every
   // vertex is drawn exactly once.
