@@ -401,10 +401,11 @@ std::int32_t ColorBox::GetTextHeight() const {
 
 void ColorBox::SetDefaultToolTips() {
   // An unnamed cell is named after its colour ("#FF8284 (FF,82,84)"); the name is
-  // both its tooltip and what ColorName reports once the cell is chosen.
+  // both its tooltip and what ColorName reports once the cell is chosen. A palette's
+  // cells come so named; this names any cell whose name was cleared since.
   Trap("SetDefaultToolTips", [&] {
     for (const CellPtr& cell : Colors()) {
-      if (cell->Name().empty()) cell->SetName(cell->GetColorStringHex() + " (" + cell->GetColorString() + ")");
+      if (cell->Name().empty()) cell->SetName(ColorBoxPalettes::DefaultName(*cell));
     }
   });
 }

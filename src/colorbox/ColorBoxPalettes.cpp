@@ -1,9 +1,13 @@
 #include "colorbox/ColorBoxPalettes.h"
 
 #include <array>
+#include <memory>
 #include <span>
+#include <vector>
 
 #include "colormodel/CColorboxCol.h"
+#include "colormodel/CColorboxEl.h"
+#include "colormodel/CellFace.h"
 #include "colormodel/CheckedMath.h"
 #include "colormodel/CommonGlobals.h"
 #include "colormodel/Enums.h"
@@ -91,114 +95,131 @@ const char* CubeName(std::int32_t cell) {
   }
 }
 
-void AddAll(CColorboxCol& cells, std::span<const NamedColor> colors) {
-  for (const NamedColor& c : colors) cells.Add(c.name, FromRedFirst(c.rrggbb), 0, 0);
+using Faces = std::vector<FacePtr>;
+
+void Append(Faces& faces, const char* name, OLE_COLOR color) {
+  faces.push_back(std::make_shared<const CellFace>(CellFace{name, color}));
 }
+
+void AppendAll(Faces& faces, std::span<const NamedColor> colors) {
+  for (const NamedColor& c : colors) Append(faces, c.name, FromRedFirst(c.rrggbb));
+}
+
+Faces Standard16(bool withBW) {
+  Faces faces;
+  AppendAll(faces, kStandard16);
+  if (withBW) AppendAll(faces, kGreyRow);
+  return faces;
+}
+
+Faces GreyScale256() {
+  Faces faces;
+  for (std::int32_t v = 0; v <= 255; ++v) Append(faces, "", RGB(v, v, v));
+  return faces;
+}
+
+// Sixteen steps of 16 stop at F0F0F0: white is not part of this ramp.
+Faces GreyScale16() {
+  Faces faces;
+  for (std::int32_t v = 0; v <= 255; v += 16) Append(faces, "", RGB(v, v, v));
+  return faces;
+}
+
+Faces Palette256(bool withBW) {
+  Faces faces;
+  for (std::int32_t cell = 0; cell < kCubeCells; ++cell) Append(faces, CubeName(cell), CubeColor(CubeEntryOfCell(cell)));
+  for (std::int32_t i = 0; i < kBlackTail; ++i) Append(faces, "Black", 0);
+  if (withBW) AppendAll(faces, kGreyRow);
+  return faces;
+}
+
+Faces Palette48(bool withBW) {
+  Faces faces;
+  AppendAll(faces, kPalette48);
+  if (withBW) AppendAll(faces, kGreyRow);
+  return faces;
+}
+
+Faces Palette40() {
+  Faces faces;
+  for (std::uint32_t rrggbb : kPalette40) Append(faces, "", FromRedFirst(rrggbb));
+  return faces;
+}
+
+// One component ramp (0 to 255) in one of the three primaries: 16 steps of 16, or all 256.
+Faces Ramp(std::int32_t count, std::int32_t componentShift) {
+  Faces faces;
+  const std::int32_t step = count == 16 ? 16 : 1;
+  for (std::int32_t v = 0; v <= 255; v = checked::Add(v, step)) Append(faces, "", v << componentShift);
+  return faces;
+}
+
+// A grid shows every unnamed cell under its colour's name, so the shared faces carry it.
+Faces Named(Faces faces, const CommonGlobals& errors) {
+  for (FacePtr& face : faces) {
+    if (!face->Name.empty()) continue;
+    CellFace named = *face;
+    named.Name = ColorBoxPalettes::DefaultName(CColorboxEl(errors, face));
+    face = std::make_shared<const CellFace>(std::move(named));
+  }
+  return faces;
+}
+
+// The faces of one palette, built on first use and shared by every grid since.
+template <auto Build, auto... Args>
+const Faces& Shared(const CommonGlobals& errors) {
+  static const Faces faces = Named(Build(Args...), errors);
+  return faces;
+}
+
+// A palette and the two layout facts that come with it. The marker is written only by
+// the three variants with a grey row (";" row ";": a gap above that zero-based row).
+struct Palette {
+  std::int32_t style;
+  const char* procedure;
+  std::int32_t columns;
+  const char* marker;  // null: the marker stays as it was
+  const Faces& (*faces)(const CommonGlobals&);
+};
+
+constexpr Palette kPalettes[] = {
+    {cpsStandard, "LoadStandard16", 8, nullptr, Shared<Standard16, false>},
+    {cpsStandardWithBW, "LoadStandard16", 8, ";2;", Shared<Standard16, true>},
+    {cpsGreyScale16, "LoadGreyScale16", 8, nullptr, Shared<GreyScale16>},
+    {cpsGreyScale256, "LoadGreyScale256", 16, nullptr, Shared<GreyScale256>},
+    {cpsPalette48, "LoadPalette48", 8, nullptr, Shared<Palette48, false>},
+    {cpsPalette48WithBW, "LoadPalette48", 8, ";6;", Shared<Palette48, true>},
+    {cpsPalette256, "LoadPalette256", 16, nullptr, Shared<Palette256, false>},
+    {cpsPalette256WithBW, "LoadPalette256", 16, ";16;", Shared<Palette256, true>},
+    {cpsPaletteRed256, "LoadPaletteRed", 16, nullptr, Shared<Ramp, 256, 0>},
+    {cpsPaletteGreen256, "LoadPaletteGreen", 16, nullptr, Shared<Ramp, 256, 8>},
+    {cpsPaletteBlue256, "LoadPaletteBlue", 16, nullptr, Shared<Ramp, 256, 16>},
+    {cpsPaletteRed16, "LoadPaletteRed", 8, nullptr, Shared<Ramp, 16, 0>},
+    {cpsPaletteGreen16, "LoadPaletteGreen", 8, nullptr, Shared<Ramp, 16, 8>},
+    {cpsPaletteBlue16, "LoadPaletteBlue", 8, nullptr, Shared<Ramp, 16, 16>},
+    {cpsPalette40, "LoadPalette40", 8, nullptr, Shared<Palette40>},
+};
 
 }  // namespace
 
+std::string ColorBoxPalettes::DefaultName(const CColorboxEl& cell) {
+  return cell.GetColorStringHex() + " (" + cell.GetColorString() + ")";
+}
+
 bool ColorBoxPalettes::Load(std::int32_t style, CColorboxCol& cells) {
-  switch (style) {
-    case cpsStandard: LoadStandard16(cells, false); return true;
-    case cpsStandardWithBW: LoadStandard16(cells, true); return true;
-    case cpsGreyScale16: LoadGreyScale16(cells); return true;
-    case cpsGreyScale256: LoadGreyScale256(cells); return true;
-    case cpsPalette40: LoadPalette40(cells); return true;
-    case cpsPalette48: LoadPalette48(cells, false); return true;
-    case cpsPalette48WithBW: LoadPalette48(cells, true); return true;
-    case cpsPalette256: LoadPalette256(cells, false); return true;
-    case cpsPalette256WithBW: LoadPalette256(cells, true); return true;
-    case cpsPaletteRed256: LoadPaletteRed(cells, 256); return true;
-    case cpsPaletteGreen256: LoadPaletteGreen(cells, 256); return true;
-    case cpsPaletteBlue256: LoadPaletteBlue(cells, 256); return true;
-    case cpsPaletteRed16: LoadPaletteRed(cells, 16); return true;
-    case cpsPaletteGreen16: LoadPaletteGreen(cells, 16); return true;
-    case cpsPaletteBlue16: LoadPaletteBlue(cells, 16); return true;
-    default: return false;
+  for (const Palette& palette : kPalettes) {
+    if (palette.style != style) continue;
+    errors_.Trap(kModule, palette.procedure, [&] {
+      const Faces& faces = palette.faces(errors_);
+      cells.Clear();
+      cells.Reserve(static_cast<std::int32_t>(faces.size()));
+      for (const FacePtr& face : faces) cells.Add(face);
+      if (palette.marker != nullptr) marker_ = palette.marker;
+      columns_ = palette.columns;
+    });
+    return true;
   }
-}
-
-void ColorBoxPalettes::AddGreyRow(CColorboxCol& cells, const char* marker) {
-  AddAll(cells, kGreyRow);
-  marker_ = marker;
-}
-
-void ColorBoxPalettes::LoadStandard16(CColorboxCol& cells, bool bWithBW) {
-  errors_.Trap(kModule, "LoadStandard16", [&] {
-    cells.Clear();
-    AddAll(cells, kStandard16);
-    if (bWithBW) AddGreyRow(cells, ";2;");
-    columns_ = 8;
-  });
-}
-
-void ColorBoxPalettes::LoadGreyScale256(CColorboxCol& cells) {
-  errors_.Trap(kModule, "LoadGreyScale256", [&] {
-    cells.Clear();
-    for (std::int32_t v = 0; v <= 255; ++v) cells.Add("", RGB(v, v, v), 0, 0);
-    columns_ = 16;
-  });
-}
-
-void ColorBoxPalettes::LoadGreyScale16(CColorboxCol& cells) {
-  errors_.Trap(kModule, "LoadGreyScale16", [&] {
-    cells.Clear();
-    // Sixteen steps of 16 stop at F0F0F0: white is not part of this ramp.
-    for (std::int32_t v = 0; v <= 255; v += 16) cells.Add("", RGB(v, v, v), 0, 0);
-    columns_ = 8;
-  });
-}
-
-void ColorBoxPalettes::LoadPalette256(CColorboxCol& cells, bool bWithBW) {
-  errors_.Trap(kModule, "LoadPalette256", [&] {
-    cells.Clear();
-    for (std::int32_t cell = 0; cell < kCubeCells; ++cell) {
-      cells.Add(CubeName(cell), CubeColor(CubeEntryOfCell(cell)), 0, 0);
-    }
-    for (std::int32_t i = 0; i < kBlackTail; ++i) cells.Add("Black", 0, 0, 0);
-    if (bWithBW) AddGreyRow(cells, ";16;");
-    columns_ = 16;
-  });
-}
-
-void ColorBoxPalettes::LoadPalette48(CColorboxCol& cells, bool bWithBW) {
-  errors_.Trap(kModule, "LoadPalette48", [&] {
-    cells.Clear();
-    AddAll(cells, kPalette48);
-    if (bWithBW) AddGreyRow(cells, ";6;");
-    columns_ = 8;
-  });
-}
-
-void ColorBoxPalettes::LoadPalette40(CColorboxCol& cells) {
-  errors_.Trap(kModule, "LoadPalette40", [&] {
-    cells.Clear();
-    for (std::uint32_t rrggbb : kPalette40) cells.Add("", FromRedFirst(rrggbb), 0, 0);
-    columns_ = 8;
-  });
-}
-
-void ColorBoxPalettes::LoadPaletteBlue(CColorboxCol& cells, std::int32_t lCount) {
-  errors_.Trap(kModule, "LoadPaletteBlue", [&] { LoadRamp(cells, lCount, 16); });
-}
-
-void ColorBoxPalettes::LoadPaletteGreen(CColorboxCol& cells, std::int32_t lCount) {
-  errors_.Trap(kModule, "LoadPaletteGreen", [&] { LoadRamp(cells, lCount, 8); });
-}
-
-void ColorBoxPalettes::LoadPaletteRed(CColorboxCol& cells, std::int32_t lCount) {
-  errors_.Trap(kModule, "LoadPaletteRed", [&] { LoadRamp(cells, lCount, 0); });
-}
-
-void ColorBoxPalettes::LoadRamp(CColorboxCol& cells, std::int32_t lCount, std::int32_t componentShift) {
-  // Only 16 means the short ramp; any other count gives all 256 steps. Unlike the
-  // other loaders, the ramps settle the column count before adding their cells.
-  const std::int32_t step = lCount == 16 ? 16 : 1;
-  columns_ = lCount == 16 ? 8 : 16;
-  cells.Clear();
-  for (std::int32_t v = 0; v <= 255; v = checked::Add(v, step)) {
-    cells.Add("", v << componentShift, 0, 0);
-  }
+  return false;
 }
 
 }  // namespace lumo

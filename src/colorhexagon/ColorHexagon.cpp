@@ -303,9 +303,9 @@ void ColorHexagon::ApplyDefaults() {
 
 void ColorHexagon::LoadHexColors() {
   Trap("LoadHexColors", [&] {
-    for (const HexagonCellEntry& entry : HexagonTable::Cells()) {
-      LiveCells().Add(entry.Name, entry.Color, entry.X, entry.Y, entry.IsLarge);
-    }
+    CColorboxCol& cells = LiveCells();
+    cells.Reserve(HexagonTable::CellCount);
+    for (const FacePtr& face : HexagonTable::Faces()) cells.Add(face);
   });
 }
 

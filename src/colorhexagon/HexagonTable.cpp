@@ -1,6 +1,7 @@
 #include "colorhexagon/HexagonTable.h"
 
 #include <cstddef>
+#include <memory>
 #include <initializer_list>
 
 namespace lumo {
@@ -77,6 +78,18 @@ std::array<HexagonCellEntry, HexagonTable::CellCount> Build() {
 const std::array<HexagonCellEntry, HexagonTable::CellCount>& HexagonTable::Cells() {
   static const std::array<HexagonCellEntry, CellCount> cells = Build();
   return cells;
+}
+
+const std::vector<FacePtr>& HexagonTable::Faces() {
+  static const std::vector<FacePtr> faces = [] {
+    std::vector<FacePtr> built;
+    built.reserve(CellCount);
+    for (const HexagonCellEntry& e : Cells()) {
+      built.push_back(std::make_shared<const CellFace>(CellFace{e.Name, e.Color, e.X, e.Y, e.IsLarge}));
+    }
+    return built;
+  }();
+  return faces;
 }
 
 }  // namespace lumo

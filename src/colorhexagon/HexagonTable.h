@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
+#include "colormodel/CellFace.h"
 #include "colormodel/Types.h"
 
 namespace lumo {
@@ -29,6 +31,8 @@ class HexagonTable {
   static constexpr std::int32_t CellCount = 135;
 
   static const std::array<HexagonCellEntry, CellCount>& Cells();
+  // The same entries as cell faces, built once and shared by every honeycomb.
+  static const std::vector<FacePtr>& Faces();
 };
 
 }  // namespace lumo

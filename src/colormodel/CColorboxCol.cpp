@@ -21,18 +21,36 @@ CellPtr CColorboxCol::Add(const std::string& sName, OLE_COLOR lColor, std::int32
   CellPtr result;
   errors_.Trap(kModule, "Add", [&] {
     auto cell = std::make_shared<CColorboxEl>(errors_);
-    cell->SetParent(this);
     cell->SetName(sName);
     cell->SetColor(lColor);
     cell->SetX(lX);
     cell->SetY(lY);
     cell->SetIsLarge(bIsLarge);
-    cells_.push_back(cell);
-    newIndex_ = Count();
-    cell->SetPosition(newIndex_);
+    Append(cell);
     result = std::move(cell);
   });
   return result;
+}
+
+CellPtr CColorboxCol::Add(FacePtr face) {
+  CellPtr result;
+  errors_.Trap(kModule, "Add", [&] {
+    auto cell = std::make_shared<CColorboxEl>(errors_, std::move(face));
+    Append(cell);
+    result = std::move(cell);
+  });
+  return result;
+}
+
+void CColorboxCol::Append(CellPtr cell) {
+  cell->SetParent(this);
+  cells_.push_back(cell);
+  newIndex_ = Count();
+  cell->SetPosition(newIndex_);
+}
+
+void CColorboxCol::Reserve(std::int32_t count) {
+  if (count > 0) cells_.reserve(cells_.size() + static_cast<std::size_t>(count));
 }
 
 CellPtr CColorboxCol::At(std::int32_t index) const {

@@ -26,6 +26,10 @@ class CColorboxCol {
 
   CellPtr Add(const std::string& sName, OLE_COLOR lColor, std::int32_t lX, std::int32_t lY,
               bool bIsLarge = false);
+  // Adds a cell showing a face that a table shares between controls.
+  CellPtr Add(FacePtr face);
+  // Makes room for `count` more cells, so a table loads without regrowing the list.
+  void Reserve(std::int32_t count);
   // The cell at 1-based `index`; out of range reports "index out of range" and answers null.
   CellPtr Item(std::int32_t index) const;
   std::int32_t Count() const;
@@ -51,6 +55,7 @@ class CColorboxCol {
 
  private:
   CellPtr At(std::int32_t index) const;  // throws index out of range
+  void Append(CellPtr cell);
 
   const CommonGlobals& errors_;
   std::vector<CellPtr> cells_;

@@ -5,6 +5,26 @@
 #include "colormodel/TextRules.h"
 
 namespace lumo {
+namespace {
+
+// The face of a cell made without one: no name, black, at (0, 0), small.
+const FacePtr& BlankFace() {
+  static const FacePtr blank = std::make_shared<const CellFace>();
+  return blank;
+}
+
+}  // namespace
+
+CColorboxEl::CColorboxEl(const CommonGlobals& errors) : errors_(errors), face_(BlankFace()) {}
+
+CellFace& CColorboxEl::OwnFace() {
+  // A face this cell made is changed in place while nobody else holds it.
+  if (!ownsFace_ || face_.use_count() != 1) {
+    face_ = std::make_shared<CellFace>(*face_);
+    ownsFace_ = true;
+  }
+  return const_cast<CellFace&>(*face_);
+}
 
 void CColorboxEl::SetBounds(std::int32_t left, std::int32_t top, std::int32_t right,
                             std::int32_t bottom) {
@@ -42,7 +62,7 @@ std::string CColorboxEl::SixHexDigits() const {
 
 std::string CColorboxEl::GetColorString() const {
   std::string result;
-  errors_.Trap(name_, "GetColorString", [&] {
+  errors_.Trap(Name(), "GetColorString", [&] {
     const std::string bgr = SixHexDigits();
     result = bgr.substr(4, 2) + "," + bgr.substr(2, 2) + "," + bgr.substr(0, 2);
   });
@@ -51,7 +71,7 @@ std::string CColorboxEl::GetColorString() const {
 
 std::string CColorboxEl::GetColorStringHex() const {
   std::string result;
-  errors_.Trap(name_, "GetColorStringHex", [&] {
+  errors_.Trap(Name(), "GetColorStringHex", [&] {
     const std::string bgr = SixHexDigits();
     result = "#" + bgr.substr(4, 2) + bgr.substr(2, 2) + bgr.substr(0, 2);
   });

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "colormodel/CellFace.h"
 #include "colormodel/Types.h"
 
 namespace lumo {
@@ -12,21 +13,24 @@ class CommonGlobals;
 
 // One colour cell: a colour with its name, its logical position and the rectangle
 // where its owner last drew it. A cell in a list knows that list (`Parent`) until
-// the list removes it.
+// the list removes it. What the cell shows is its face, which cells of the same
+// table share (see CellFace); the cell itself holds only what its control changes.
 class CColorboxEl {
  public:
-  explicit CColorboxEl(const CommonGlobals& errors) : errors_(errors) {}
+  explicit CColorboxEl(const CommonGlobals& errors);
+  CColorboxEl(const CommonGlobals& errors, FacePtr face) : errors_(errors), face_(std::move(face)) {}
 
-  const std::string& Name() const { return name_; }
-  void SetName(std::string name) { name_ = std::move(name); }
-  OLE_COLOR Color() const { return color_; }
-  void SetColor(OLE_COLOR color) { color_ = color; }
-  bool IsLarge() const { return isLarge_; }
-  void SetIsLarge(bool large) { isLarge_ = large; }
-  std::int32_t X() const { return x_; }
-  void SetX(std::int32_t x) { x_ = x; }
-  std::int32_t Y() const { return y_; }
-  void SetY(std::int32_t y) { y_ = y; }
+  const std::string& Name() const { return face_->Name; }
+  void SetName(std::string name) { OwnFace().Name = std::move(name); }
+  OLE_COLOR Color() const { return face_->Color; }
+  void SetColor(OLE_COLOR color) { OwnFace().Color = color; }
+  bool IsLarge() const { return face_->IsLarge; }
+  void SetIsLarge(bool large) { OwnFace().IsLarge = large; }
+  std::int32_t X() const { return face_->X; }
+  void SetX(std::int32_t x) { OwnFace().X = x; }
+  std::int32_t Y() const { return face_->Y; }
+  void SetY(std::int32_t y) { OwnFace().Y = y; }
+  const FacePtr& Face() const { return face_; }
 
   // Inclusive pixel bounds of the drawn cell, written by the owning control.
   std::int32_t BoundLeft() const { return boundLeft_; }
@@ -52,18 +56,17 @@ class CColorboxEl {
  private:
   // The six digits BBGGRR; an invalid argument for more than six.
   std::string SixHexDigits() const;
+  // The face to change: a shared face is copied first, so the other cells keep theirs.
+  CellFace& OwnFace();
 
   const CommonGlobals& errors_;
-  OLE_COLOR color_ = 0;
-  std::int32_t x_ = 0;
-  std::int32_t y_ = 0;
+  FacePtr face_;
   std::int32_t boundLeft_ = 0;
   std::int32_t boundTop_ = 0;
   std::int32_t boundRight_ = 0;
   std::int32_t boundBottom_ = 0;
-  std::string name_;
-  bool isLarge_ = false;
-  std::int32_t position_ = 0;  // beside the flag, where the padding was
+  std::int32_t position_ = 0;
+  bool ownsFace_ = false;  // made by this cell as a changeable face; beside the position, where the padding was
   CColorboxCol* parent_ = nullptr;
 };
 
