@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <cmath>
+#include <cstdlib>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -72,16 +74,43 @@ TEST(RoundHalfToEven, TiesGoToTheEvenNeighbourAndOutOfRangeOverflows) {
   }
 }
 
+// Texts and what text::ToLong answers for them.
+const std::pair<const char*, const char*> kNumberTexts[] = {
+    {"&hFF", "255"},         {"&Hff", "255"},      {"&h0", "0"},         {"&h7FFFFFFF", "2147483647"},
+    {"&hFFFFFFFF", "-1"},    {"&h80000000", "-2147483648"},              {"&h000000FF", "255"},
+    {"  &h1F  ", "31"},      {"&h100000000", "error 6"},                 {"&h", "error 13"},
+    {"&hG0", "error 13"},    {"&h-1", "error 13"}, {"&h1 2", "error 13"}, {"&h3,4", "error 13"},
+    {"", "error 13"},        {"#FF", "error 13"},  {"42", "42"},         {"-42", "-42"},
+    {"2.5", "2"},            {"3.5", "4"},         {"2147483648", "error 6"},
+    {"12abc", "error 13"},   {"-", "error 13"}};
+
 TEST(TextToNumber, AcceptsHexLiteralsAndDecimalsAndRejectsTheRest) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"&hFF", "255"},         {"&Hff", "255"},      {"&h0", "0"},         {"&h7FFFFFFF", "2147483647"},
-      {"&hFFFFFFFF", "-1"},    {"&h80000000", "-2147483648"},              {"&h000000FF", "255"},
-      {"  &h1F  ", "31"},      {"&h100000000", "error 6"},                 {"&h", "error 13"},
-      {"&hG0", "error 13"},    {"&h-1", "error 13"}, {"&h1 2", "error 13"}, {"&h3,4", "error 13"},
-      {"", "error 13"},        {"#FF", "error 13"},  {"42", "42"},         {"-42", "-42"},
-      {"2.5", "2"},            {"3.5", "4"},         {"2147483648", "error 6"},
-      {"12abc", "error 13"},   {"-", "error 13"}};
-  for (const auto& [text, outcome] : cases) EXPECT_EQ(Outcome([t = text] { return text::ToLong(t); }), outcome) << text;
+  for (const auto& [text, outcome] : kNumberTexts) {
+    EXPECT_EQ(Outcome([t = text] { return text::ToLong(t); }), outcome) << text;
+  }
+}
+
+// A C locale whose decimal mark is a comma, as QApplication sets it from LANG: the
+// build generates de_DE.UTF-8 into LUMO_TEST_LOCALES, so the test never depends on the
+// machine's own locales.
+class CommaDecimalLocale : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    saved_ = std::setlocale(LC_ALL, nullptr);
+    ::setenv("LOCPATH", LUMO_TEST_LOCALES, 1);
+    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr) << "no de_DE.UTF-8 in " LUMO_TEST_LOCALES;
+    ASSERT_EQ(std::strtod("1,5", nullptr), 1.5);  // the locale really reads a comma
+  }
+  void TearDown() override { std::setlocale(LC_ALL, saved_.c_str()); }
+
+ private:
+  std::string saved_;
+};
+
+TEST_F(CommaDecimalLocale, TextToNumberReadsTheSameAsEverywhere) {
+  for (const auto& [text, outcome] : kNumberTexts) {
+    EXPECT_EQ(Outcome([t = text] { return text::ToLong(t); }), outcome) << text;
+  }
 }
 
 TEST(TextSearch, TextCompareIgnoresCaseBinaryDoesNotAndPositionsAreOneBased) {

@@ -9,12 +9,6 @@ ManualTimer::~ManualTimer() {
   live.erase(std::remove(live.begin(), live.end(), this), live.end());
 }
 
-bool ManualTimer::Fire() {
-  if (!enabled_) return false;
-  tick_();
-  return true;
-}
-
 std::unique_ptr<HostTimer> ManualTimers::CreateTimer(std::function<void()> tick) {
   auto timer = std::make_unique<ManualTimer>(*this, std::move(tick));
   live_.push_back(timer.get());

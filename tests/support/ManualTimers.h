@@ -15,13 +15,17 @@ class ManualTimers;
 class ManualTimer : public HostTimer {
  public:
   ManualTimer(ManualTimers& owner, std::function<void()> tick) : owner_(owner), tick_(std::move(tick)) {}
-  ~ManualTimer() override;
+  ~ManualTimer() override;  // leaves the owner's list of live timers
   std::int32_t Interval() const override { return interval_; }
   void SetInterval(std::int32_t milliseconds) override { interval_ = milliseconds; }
   bool Enabled() const override { return enabled_; }
   void SetEnabled(bool enabled) override { enabled_ = enabled; }
   // Ticks once if enabled; answers whether it ticked.
-  bool Fire();
+  bool Fire() {
+    if (!enabled_) return false;
+    tick_();
+    return true;
+  }
 
  private:
   ManualTimers& owner_;

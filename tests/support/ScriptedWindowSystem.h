@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "colormodel/WindowSystem.h"
@@ -15,16 +16,36 @@ namespace lumo::testing {
 // whose modal shows run the test's script for that form and return when it unloads.
 class ScriptedWindowSystem : public WindowSystem {
  public:
-  std::unique_ptr<FormWindow> LoadForm(const std::string& name, FormEvents& events) override;
+  std::unique_ptr<FormWindow> LoadForm(const std::string& name, FormEvents& events) override {
+    auto form = std::make_unique<TestForm>(name, events, nextHandle_ += 0x10);
+    if (const auto script = scripts_.find(name); script != scripts_.end()) form->ModalScript = script->second;
+    lastForms_[name] = form.get();
+    LoadedForms.push_back(name);
+    return form;
+  }
   std::int32_t ScreenWidth() const override { return ScreenWidthTwips; }
   std::int32_t ScreenHeight() const override { return ScreenHeightTwips; }
-  WindowHandle SetCapture(WindowHandle window) override;
+  WindowHandle SetCapture(WindowHandle window) override {
+    CaptureCalls.push_back(window);
+    return std::exchange(Capture, window);
+  }
   WindowHandle GetCapture() const override { return Capture; }
-  bool ReleaseCapture() override;
+  bool ReleaseCapture() override {
+    ++ReleaseCalls;
+    Capture = 0;
+    return true;
+  }
   WindowHandle GetActiveWindow() const override { return ActiveWindow; }
   WindowHandle GetFocus() const override { return Focus; }
-  Point ClientToScreen(WindowHandle window, Point point) const override;
-  void DoEvents() override;
+  Point ClientToScreen(WindowHandle window, Point point) const override {
+    const auto found = ClientOrigins.find(window);
+    const Point origin = found == ClientOrigins.end() ? Point{} : found->second;
+    return {origin.X + point.X, origin.Y + point.Y};
+  }
+  void DoEvents() override {
+    ++DoEventsCalls;
+    if (OnDoEvents) OnDoEvents();
+  }
   void ShowAboutBox(WindowHandle owner) override { AboutBoxOwners.push_back(owner); }
 
   // --- for tests ---
@@ -33,7 +54,10 @@ class ScriptedWindowSystem : public WindowSystem {
     scripts_[formName] = std::move(script);
   }
   // The most recently loaded form of that name (null if none was loaded).
-  TestForm* LastForm(const std::string& formName) const;
+  TestForm* LastForm(const std::string& formName) const {
+    const auto found = lastForms_.find(formName);
+    return found == lastForms_.end() ? nullptr : found->second;
+  }
 
   std::int32_t ScreenWidthTwips = 1024 * 15;
   std::int32_t ScreenHeightTwips = 768 * 15;
