@@ -110,6 +110,7 @@ class ColorBoxPointer : public ColorBoxHarness {};
 TEST_F(ColorBoxPointer, PressAndReleaseDecideWhatIsChosen) {
   const Point automatic = Centre(box->AutoRect()), more = Centre(box->MoreRect()), green = CellCentre(3);
   const Point gap{CellCentre(1).X + 9, CellCentre(1).Y}, outside{-4, surface.ScaleHeight() + 5};
+  const Point above{green.X, -1}, below{green.X, surface.ScaleHeight() + 1}, beyond{surface.ScaleWidth() + 1, green.Y};
   const struct {
     Point press, release;
     std::int16_t button;
@@ -122,10 +123,11 @@ TEST_F(ColorBoxPointer, PressAndReleaseDecideWhatIsChosen) {
                {more, more, mouse::Left, {"MoreColorClick"}, false},
                {green, more, mouse::Left, {}, false},
                {gap, gap, mouse::Left, {}, false},
-               {green, outside, mouse::Left, {"UserCancel"}, true},
+               {green, below, mouse::Left, {"UserCancel"}, true},
+               {green, above, mouse::Left, {"UserCancel"}, true},
                {outside, outside, mouse::Left, {"UserCancel", "UserCancel"}, true},
                {green, green, mouse::Right, {}, false},
-               {green, outside, mouse::Right, {"UserCancel"}, true}};
+               {green, beyond, mouse::Right, {"UserCancel"}, true}};
   for (const auto& c : cases) {
     Recreate();
     Log.clear();
