@@ -115,7 +115,7 @@ void ComboDropdownTest::endsThroughTheServer() {
   // Never hang: a drop-down (or dialog) that ignored the user is closed, and the test fails.
   QTimer::singleShot(15000, &window, [] {
     if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();
-    if (host::QtFormWindow* form = ShownForms::Find("frmDropdown")) form->Unload();
+    if (lumo::frmDropdown* dropdown = Dropdown()) dropdown->Unload();
   });
 
   QVERIFY(ServerInput::Click(combo->mapToGlobal(QPoint(30, combo->height() / 2))));
