@@ -101,8 +101,6 @@ INSTANTIATE_TEST_SUITE_P(
               {"BeforeDropDown", "BeforeColorChanged 8200"}, false, kBrown},
         Cycle{"Escape", false, kGreenColor, [](Dropdown& d) { d.grid.Key(keycode::Escape); }, true, "", kNoChange,
               false, kGreenColor},
-        Cycle{"PressOutside", false, kGreenColor, [](Dropdown& d) { d.grid.MouseDown(-5, -5); }, true, "", kNoChange,
-              false, kGreenColor},
         Cycle{"F4", false, kGreenColor, [](Dropdown& d) { d.form.PressKey(keycode::F4); }, true, "", kNoChange, false,
               kGreenColor},
         Cycle{"Deactivation", false, kGreenColor, [](Dropdown& d) { d.form.Deactivate(); }, true, "", kNoChange, false,
