@@ -105,20 +105,32 @@ TEST_F(Styles, TheButtonFrameIsTheSunkenFieldLitTheOtherWay) {
 }
 
 // The arrow is centred with halves truncated toward zero: in the 13 x 18 button it
-// starts one pixel left of the button and one below its top.
-TEST_F(ComboHarness, DropButtonIsSunkenWhileOpenAndRaisedAfterWithTheArrowCentred) {
+// starts one pixel left of the button and one below its top. The focus mark frames the
+// bar while the control has the focus and is not dropped down.
+TEST_F(ComboHarness, WhileOpenTheButtonIsSunkenAndTheFocusMarkOff) {
   const Rect b = combo->DropButtonRect();
   const auto lastEdge = [&] { return surface.CallsOf("DrawEdge").back().Args; };
+  const auto marks = [&] {
+    surface.ClearCalls();
+    combo->Refresh();
+    return surface.CallsOf("DrawFocusRect");
+  };
+  combo->UserControl_EnterFocus();
+  ASSERT_EQ(marks().size(), 1u);
+  EXPECT_EQ(marks().at(0).Args, (Args{4, 2, kWidth - 13 - 4, combo->GetHeight() - 2}));
   Open([&](Dropdown& d) {
     EXPECT_EQ(lastEdge(), (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Sunken, edge::AllSides}));
     d.Hover(testing::kWhite);  // a preview's redraw keeps the pressed look
     EXPECT_EQ(lastEdge(), (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Sunken, edge::AllSides}));
+    EXPECT_TRUE(marks().empty());
     d.form.Deactivate();
   });
   EXPECT_EQ(lastEdge(), (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Raised, edge::AllSides}));
   const auto arrow = LinesOf(surface.Calls, 0);
   ASSERT_GE(arrow.size(), 3u);
   EXPECT_EQ(arrow.end()[-3].first, (Args{b.Left - 1, b.Top + 1, b.Left + 4, b.Top + 1}));
+  combo->UserControl_ExitFocus();
+  EXPECT_TRUE(marks().empty());
 }
 
 // One line per run of one colour on one row; the pen, its width and position stay.
@@ -215,23 +227,6 @@ TEST_F(ComboHarness, ColourSetFromCodeRedrawsOnlyTheBarAndRaisesNothing) {
   EXPECT_EQ(surface.CallsOf("Rectangle").back().FillColor, 0xFF);
   EXPECT_EQ(surface.Calls.back().Op, "Refresh");
   EXPECT_TRUE(Log.empty());
-}
-
-TEST_F(ComboHarness, FocusMarkFramesTheBarWhileFocusedAndNotDroppedDown) {
-  const auto marks = [&] {
-    surface.ClearCalls();
-    combo->Refresh();
-    return surface.CallsOf("DrawFocusRect");
-  };
-  combo->UserControl_EnterFocus();
-  ASSERT_EQ(marks().size(), 1u);
-  EXPECT_EQ(marks().at(0).Args, (Args{4, 2, kWidth - 13 - 4, combo->GetHeight() - 2}));
-  Open([&](Dropdown& d) {
-    EXPECT_TRUE(marks().empty());
-    d.form.Deactivate();
-  });
-  combo->UserControl_ExitFocus();
-  EXPECT_TRUE(marks().empty());
 }
 
 // --- height and access key ------------------------------------------------------------------------
