@@ -41,11 +41,6 @@ class ColorSampleTest : public ::testing::Test {
     sample.emplace(host.Runtime, surface, site);
     sample->UserControl_InitProperties();
   }
-  Lines Messages() const {
-    Lines prompts;
-    for (const auto& m : host.Messages.Shown) prompts.push_back(m.Prompt);
-    return prompts;
-  }
   // The operations of the last drawing, from its Cls on.
   Lines LastDrawing() const {
     Lines ops;
@@ -55,7 +50,6 @@ class ColorSampleTest : public ::testing::Test {
     }
     return ops;
   }
-
   testing::TestHost host;
   RecordingSurface surface{120, 30};
   HandleSite site;
@@ -123,13 +117,14 @@ TEST_F(ColorSampleTest, ResizeIgnoresASurfaceThatRefusesTheSize) {
   refusing.ClearCalls();
   other.UserControl_Resize();
   EXPECT_TRUE(refusing.Calls.empty());
-  EXPECT_TRUE(Messages().empty());
+  EXPECT_TRUE(host.Messages.Shown.empty());
 }
 
 TEST_F(ColorSampleTest, ADrawingFailureIsReportedUnderRefreshAndTheSetterStillNotifies) {
   surface.LineHeight = 3e9;  // the text height no longer fits 32 bits
   sample->SetText("Overflow");
-  EXPECT_EQ(Messages(), (Lines{"Error Number: 6\r\nModule: ColorSample\r\nProcedure: Refresh\r\n\r\nOverflow\r\n"}));
+  ASSERT_EQ(host.Messages.Shown.size(), 1u);
+  EXPECT_EQ(host.Messages.Shown[0].Prompt, "Error Number: 6\r\nModule: ColorSample\r\nProcedure: Refresh\r\n\r\nOverflow\r\n");
   EXPECT_EQ(site.Changed, (Lines{"Text [Let]"}));
 }
 
