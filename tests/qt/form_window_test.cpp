@@ -1,16 +1,22 @@
+// The Qt host's forms and control sites: modal show, unloading, focus and key delivery,
+// activation, geometry in twips, and the container events a control gets from its site.
 #include <QtTest>
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include <memory>
+#include <string>
 
-#include "RecordingFormEvents.h"
-#include "colormodel/ControlSite.h"
+#include "colormodel/ControlEvents.h"
+#include "colormodel/FormEvents.h"
 #include "colormodel/SurfaceEvents.h"
 #include "colormodel/TextBox.h"
+#include "qt/FormDesigns.h"
+#include "qt/QtControlSite.h"
 #include "qt/QtFormWindow.h"
-#include "qt/QtLabel.h"
+#include "qt/QtTextBox.h"
 #include "qt/QtTimerService.h"
 #include "qt/QtWindowSystem.h"
 #include "qt/SurfaceWidget.h"
@@ -20,6 +26,40 @@ using namespace LumoColorCombo::host;
 
 namespace {
 
+// The core object behind a form, reduced to a log of what the window delivered, in
+// order ("QueryUnload 0", "Unload", "Click cmdButton 1", "LostFocus txtColor",
+// "KeyDown 115", "Activate"), with the answers a test scripts.
+class RecordingFormEvents : public lumo::FormEvents {
+ public:
+  void Form_Activate() override { record(QStringLiteral("Activate")); }
+  void Form_Deactivate() override { record(QStringLiteral("Deactivate")); }
+  void Form_KeyDown(std::int16_t& keyCode, std::int16_t /*shift*/) override {
+    record(QStringLiteral("KeyDown %1").arg(keyCode));
+    if (swallowKeys) keyCode = 0;
+  }
+  void Form_QueryUnload(bool& cancel, std::int32_t unloadMode) override {
+    record(QStringLiteral("QueryUnload %1").arg(unloadMode));
+    cancel = cancelUnload;
+  }
+  void Form_Unload() override { record(QStringLiteral("Unload")); }
+  void ControlClick(const std::string& control, std::int32_t index) override {
+    record(QStringLiteral("Click %1 %2").arg(QString::fromStdString(control)).arg(index));
+  }
+  void ControlLostFocus(const std::string& control) override {
+    record(QStringLiteral("LostFocus %1").arg(QString::fromStdString(control)));
+  }
+
+  // The entries that start with `prefix`, in order.
+  QStringList only(const QString& prefix) const { return log.filter(QRegularExpression('^' + prefix)); }
+
+  QStringList log;
+  bool cancelUnload = false;
+  bool swallowKeys = false;
+
+ private:
+  void record(const QString& entry) { log << entry; }
+};
+
 // A surface's owner that writes the keys it gets into the form's log.
 struct KeyLog : lumo::SurfaceEvents {
   explicit KeyLog(QStringList& target) : log(target) {}
@@ -27,28 +67,74 @@ struct KeyLog : lumo::SurfaceEvents {
   QStringList& log;
 };
 
+// A control reduced to the container events it receives, in order.
+class RecordingControl : public lumo::ControlEvents {
+ public:
+  void UserControl_Resize() override { log << QStringLiteral("Resize"); }
+  void UserControl_Show() override { log << QStringLiteral("Show"); }
+  void UserControl_Hide() override { log << QStringLiteral("Hide"); }
+  void UserControl_GotFocus() override { log << QStringLiteral("GotFocus"); }
+  void UserControl_LostFocus() override { log << QStringLiteral("LostFocus"); }
+  void UserControl_EnterFocus() override { log << QStringLiteral("EnterFocus"); }
+  void UserControl_ExitFocus() override { log << QStringLiteral("ExitFocus"); }
+  void UserControl_AccessKeyPress(std::int16_t keyAscii) override {
+    log << "AccessKeyPress " + QString(QChar(keyAscii));
+  }
+  QStringList log;
+};
+
+// One control in its window: the control's box with its drawing surface inside, and a
+// text field beside it that holds the focus when the control does not. An application
+// places it on its own window (`form` null), or it is hosted on one of the library's
+// forms and reached by name as the core does.
+struct Placement {
+  explicit Placement(bool onLibraryForm) {
+    if (onLibraryForm) {
+      form = FormDesigns().load("frmHosting", formEvents);
+      window = form.get();
+      control = &form->children().addHostedControl(QStringLiteral("Hosted"));
+      inner = form->children().findSurface(QStringLiteral("Hosted"));
+      outside = form->children().addTextBox(QStringLiteral("txtOutside")).lineEdit();
+      site = &form->children().site(QStringLiteral("Hosted"));
+    } else {
+      window = new QWidget;
+      control = new QWidget(window);
+      inner = new SurfaceWidget(control);
+      outside = new QLineEdit(window);
+      ownSite = std::make_unique<QtControlSite>(control);
+      site = ownSite.get();
+    }
+    for (QWidget* focusable : {control, inner}) focusable->setFocusPolicy(Qt::StrongFocus);
+    control->setMinimumSize(40, 30);
+    outside->move(0, 60);
+    site->Attach(&events);
+  }
+  ~Placement() {
+    ownSite.reset();
+    if (!form) delete window;
+  }
+  QWidget* Named(const QString& name) const {
+    return name == "control" ? control : name == "inner" ? inner : name == "outside" ? outside : nullptr;
+  }
+  RecordingControl events;  // first in, last out: the site reports to it until it goes
+  RecordingFormEvents formEvents;
+  std::unique_ptr<QtFormWindow> form;
+  QWidget* window = nullptr;
+  QWidget* control = nullptr;
+  QWidget* inner = nullptr;
+  QWidget* outside = nullptr;
+  std::unique_ptr<QtControlSite> ownSite;
+  QtControlSite* site = nullptr;
+};
+
 }  // namespace
 
 class FormWindowTest : public QObject {
   Q_OBJECT
 
- private slots:
-  void init() { events_ = RecordingFormEvents(); }
-  void modalShowReturnsOnlyAfterUnloadWhileTimersTick();
-  void unloadAsksFirstAndTellsHow_data();
-  void unloadAsksFirstAndTellsHow();
-  void leavingTheColourFieldIsReportedOnce_data();
-  void leavingTheColourFieldIsReportedOnce();
-  void formSeesKeysBeforeTheFocusedChild_data();
-  void formSeesKeysBeforeTheFocusedChild();
-  void activationIsReported_data();
-  void activationIsReported();
-  void geometryIsInTwips_data();
-  void geometryIsInTwips();
-  void popupChildrenAreReachedByTheirDesignNames();
-  void unknownChildIsMadeHiddenOnDemand();
+  QtWindowSystem windows_;
+  RecordingFormEvents events_;
 
- private:
   std::unique_ptr<QtFormWindow> showActive(const char* name) {
     auto form = windows_.designs().load(name, events_);
     form->Show(false);
@@ -56,193 +142,227 @@ class FormWindowTest : public QObject {
     return form;
   }
 
-  QtWindowSystem windows_;
-  RecordingFormEvents events_;
-};
+ private slots:
+  void init() { events_ = RecordingFormEvents(); }
 
-void FormWindowTest::modalShowReturnsOnlyAfterUnloadWhileTimersTick() {
-  auto form = windows_.designs().load("frmDropdown", events_);
-  QtTimerService timers;
-  int ticks = 0;
-  const auto timer = timers.CreateTimer([&] {
-    if (++ticks == 3) form->Unload();
-  });
-  timer->SetInterval(1);
-  timer->SetEnabled(true);
-
-  form->Show(true);
-
-  QCOMPARE(ticks, 3);
-  QVERIFY(!form->IsLoaded() && !form->isVisible() && !form->isShowingModally());
-  QCOMPARE(events_.only("QueryUnload|Unload"), QStringList({"QueryUnload 1", "Unload"}));
-}
-
-void FormWindowTest::unloadAsksFirstAndTellsHow_data() {
-  QTest::addColumn<QString>("how");
-  QTest::addColumn<bool>("cancel");
-  QTest::addColumn<QStringList>("expected");
-  QTest::newRow("title bar") << "close" << false << QStringList({"QueryUnload 0", "Unload"});
-  QTest::newRow("title bar, cancelled") << "close" << true << QStringList({"QueryUnload 0"});
-  QTest::newRow("Escape") << "escape" << false << QStringList({"QueryUnload 0", "Unload"});
-  QTest::newRow("code") << "unload" << false << QStringList({"QueryUnload 1", "Unload"});
-  QTest::newRow("code, cancelled") << "unload" << true << QStringList({"QueryUnload 1"});
-}
-
-void FormWindowTest::unloadAsksFirstAndTellsHow() {
-  QFETCH(QString, how);
-  QFETCH(bool, cancel);
-  QFETCH(QStringList, expected);
-  auto form = showActive("frmPopup");
-  events_.cancelUnload = cancel;
-
-  if (how == "close") form->close();
-  if (how == "escape") QTest::keyClick(form->children().findButton("cmdButton", 1), Qt::Key_Escape);
-  if (how == "unload") form->Unload();
-
-  QCOMPARE(events_.only("QueryUnload|Unload"), expected);
-  QCOMPARE(form->IsLoaded(), cancel);
-  QCOMPARE(form->isVisible(), cancel);
-}
-
-void FormWindowTest::leavingTheColourFieldIsReportedOnce_data() {
-  QTest::addColumn<QString>("how");
-  QTest::addColumn<QStringList>("expected");
-  QTest::newRow("click Cancel") << "click" << QStringList({"LostFocus txtColor", "Click cmdButton 1"});
-  QTest::newRow("Return") << "return" << QStringList({"LostFocus txtColor"});
-  QTest::newRow("Return, then Tab") << "return tab" << QStringList({"LostFocus txtColor"});
-  QTest::newRow("Tab") << "tab" << QStringList({"LostFocus txtColor"});
-  QTest::newRow("another window") << "deactivate" << QStringList();
-}
-
-void FormWindowTest::leavingTheColourFieldIsReportedOnce() {
-  QFETCH(QString, how);
-  QFETCH(QStringList, expected);
-  auto form = showActive("frmPopup");
-  QLineEdit* field = form->children().findLineEdit("txtColor");
-  field->setFocus(Qt::MouseFocusReason);
-  QTest::keyClicks(field, "ff,0,0");
-  QWidget elsewhere;
-
-  if (how.startsWith("return")) QTest::keyClick(field, Qt::Key_Return);
-  if (how.endsWith("tab")) QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
-  if (how == "click") QTest::mouseClick(form->children().findButton("cmdButton", 1), Qt::LeftButton);
-  if (how == "deactivate") {
-    elsewhere.show();
-    elsewhere.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+  void formsLoadHiddenByName() {
+    for (const char* name : {"frmPopup", "frmDropdown", "frmOther"}) {
+      const std::unique_ptr<lumo::FormWindow> form = windows_.LoadForm(name, events_);
+      auto* window = dynamic_cast<QtFormWindow*>(form.get());
+      QVERIFY(window && window->isWindow() && !window->isVisible() && form->IsLoaded());
+      QCOMPARE(window->formName(), QString(name));
+      QCOMPARE(form->hWnd(), WidgetHandles::handleOf(window));
+      QCOMPARE(window->windowFlags().testFlag(Qt::FramelessWindowHint), QString(name) == "frmDropdown");
+    }
+    QVERIFY(events_.log.isEmpty());
   }
 
-  QCOMPARE(events_.only("LostFocus|Click"), expected);
-  QVERIFY(form->IsLoaded());
-}
+  void modalShowReturnsOnlyAfterUnloadWhileTimersTick() {
+    auto form = windows_.designs().load("frmDropdown", events_);
+    QtTimerService timers;
+    int ticks = 0;
+    const auto timer = timers.CreateTimer([&] {
+      if (++ticks == 3) form->Unload();
+    });
+    timer->SetInterval(1);
+    timer->SetEnabled(true);
 
-void FormWindowTest::formSeesKeysBeforeTheFocusedChild_data() {
-  QTest::addColumn<bool>("swallow");
-  QTest::addColumn<QStringList>("expected");
-  QTest::newRow("passed on") << false << QStringList({"KeyDown 115", "Surface 115"});
-  QTest::newRow("swallowed") << true << QStringList({"KeyDown 115"});
-}
+    form->Show(true);
 
-void FormWindowTest::formSeesKeysBeforeTheFocusedChild() {
-  QFETCH(bool, swallow);
-  QFETCH(QStringList, expected);
-  auto form = showActive("frmDropdown");
-  auto& surface = static_cast<SurfaceWidget&>(form->Surface("ColorBox1"));
-  KeyLog keys(events_.log);
-  surface.SetListener(&keys);
-  events_.swallowKeys = swallow;
+    QCOMPARE(ticks, 3);
+    QVERIFY(!form->IsLoaded() && !form->isVisible() && !form->isShowingModally());
+    QCOMPARE(events_.only("QueryUnload|Unload"), QStringList({"QueryUnload 1", "Unload"}));
+  }
 
-  QTest::keyClick(&surface, Qt::Key_F4);
+  void unloadAsksFirstAndTellsHow_data() {
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<bool>("cancel");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("title bar") << "close" << false << QStringList({"QueryUnload 0", "Unload"});
+    QTest::newRow("title bar, cancelled") << "close" << true << QStringList({"QueryUnload 0"});
+    QTest::newRow("Escape") << "escape" << false << QStringList({"QueryUnload 0", "Unload"});
+    QTest::newRow("code") << "unload" << false << QStringList({"QueryUnload 1", "Unload"});
+    QTest::newRow("code, cancelled") << "unload" << true << QStringList({"QueryUnload 1"});
+  }
 
-  QCOMPARE(events_.only("KeyDown|Surface"), expected);
-}
+  void unloadAsksFirstAndTellsHow() {
+    QFETCH(QString, how);
+    QFETCH(bool, cancel);
+    QFETCH(QStringList, expected);
+    auto form = showActive("frmPopup");
+    events_.cancelUnload = cancel;
 
-// A dialog is activated by the window system; a popup, which Qt never activates, once
-// it is exposed, and Qt closes it when another window takes the activation.
-void FormWindowTest::activationIsReported_data() {
-  QTest::addColumn<QString>("form");
-  QTest::newRow("dialog") << "frmPopup";
-  QTest::newRow("popup") << "frmDropdown";
-}
+    if (how == "close") form->close();
+    if (how == "escape") QTest::keyClick(form->children().findButton("cmdButton", 1), Qt::Key_Escape);
+    if (how == "unload") form->Unload();
 
-void FormWindowTest::activationIsReported() {
-  QFETCH(QString, form);
-  auto window = showActive(qPrintable(form));
-  QTRY_COMPARE(events_.only("Activate|Deactivate"), QStringList({"Activate"}));
-  QWidget other;
-  other.show();
-  other.activateWindow();
-  QVERIFY(QTest::qWaitForWindowActive(&other));
+    QCOMPARE(events_.only("QueryUnload|Unload"), expected);
+    QCOMPARE(form->IsLoaded(), cancel);
+    QCOMPARE(form->isVisible(), cancel);
+  }
 
-  QTRY_COMPARE(events_.only("Activate|Deactivate"), QStringList({"Activate", "Deactivate"}));
-}
+  void leavingTheColourFieldIsReportedOnce_data() {
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("click Cancel") << "click" << QStringList({"LostFocus txtColor", "Click cmdButton 1"});
+    QTest::newRow("Return") << "return" << QStringList({"LostFocus txtColor"});
+    QTest::newRow("Return, then Tab") << "return tab" << QStringList({"LostFocus txtColor"});
+    QTest::newRow("Tab") << "tab" << QStringList({"LostFocus txtColor"});
+    QTest::newRow("another window") << "deactivate" << QStringList();
+  }
 
-void FormWindowTest::geometryIsInTwips_data() {
-  QTest::addColumn<QString>("form");
-  QTest::addColumn<bool>("moveWhileHidden");
-  QTest::addColumn<QRect>("twips");
-  QTest::addColumn<QRect>("pixels");
-  QTest::newRow("whole pixels") << "frmDropdown" << false << QRect(1500, 3000, 3000, 4500) << QRect(100, 200, 200, 300);
-  QTest::newRow("nearest pixel") << "frmDropdown" << false << QRect(1507, 3008, 3022, 4493) << QRect(100, 201, 201, 300);
-  QTest::newRow("framed") << "frmPopup" << false << QRect(1500, 3000, 7500, 6000) << QRect(100, 200, 500, 400);
-  QTest::newRow("framed, moved hidden") << "frmPopup" << true << QRect(1500, 3000, 7500, 6000) << QRect(100, 200, 500, 400);
-}
+  void leavingTheColourFieldIsReportedOnce() {
+    QFETCH(QString, how);
+    QFETCH(QStringList, expected);
+    auto form = showActive("frmPopup");
+    QLineEdit* field = form->children().findLineEdit("txtColor");
+    field->setFocus(Qt::MouseFocusReason);
+    QTest::keyClicks(field, "ff,0,0");
+    QWidget elsewhere;
 
-void FormWindowTest::geometryIsInTwips() {
-  QFETCH(QString, form);
-  QFETCH(bool, moveWhileHidden);
-  QFETCH(QRect, twips);
-  QFETCH(QRect, pixels);
-  auto window = windows_.designs().load(form.toStdString(), events_);
+    if (how.startsWith("return")) QTest::keyClick(field, Qt::Key_Return);
+    if (how.endsWith("tab")) QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
+    if (how == "click") QTest::mouseClick(form->children().findButton("cmdButton", 1), Qt::LeftButton);
+    if (how == "deactivate") {
+      elsewhere.show();
+      elsewhere.activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+    }
 
-  if (moveWhileHidden) window->Move(twips.x(), twips.y(), twips.width(), twips.height());
-  window->Show(false);
-  QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-  if (!moveWhileHidden) window->Move(twips.x(), twips.y(), twips.width(), twips.height());
+    QCOMPARE(events_.only("LostFocus|Click"), expected);
+    QVERIFY(form->IsLoaded());
+  }
 
-  QTRY_COMPARE(window->frameGeometry(), pixels);
-  QCOMPARE(QRect(window->Left(), window->Top(), window->Width(), window->Height()),
-           QRect(pixels.topLeft() * 15, pixels.size() * 15));
-  QCOMPARE(QSize(window->ScaleWidth(), window->ScaleHeight()), window->size() * 15);
-}
+  void formSeesKeysBeforeTheFocusedChild_data() {
+    QTest::addColumn<bool>("swallow");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("passed on") << false << QStringList({"KeyDown 115", "Surface 115"});
+    QTest::newRow("swallowed") << true << QStringList({"KeyDown 115"});
+  }
 
-void FormWindowTest::popupChildrenAreReachedByTheirDesignNames() {
-  auto form = showActive("frmPopup");
-  auto& hexagon = static_cast<SurfaceWidget&>(form->Surface("ColorHexagon1"));
-  lumo::ControlSite& site = form->Site("ColorHexagon1");
-  lumo::Label& overColor = form->LabelNamed("ColorHexagon1.lblOverColor");
-  auto& frame = static_cast<SurfaceWidget&>(form->Surface("picColorBack"));
-  auto& newSwatch = static_cast<SurfaceWidget&>(form->Surface("picNew"));
+  void formSeesKeysBeforeTheFocusedChild() {
+    QFETCH(bool, swallow);
+    QFETCH(QStringList, expected);
+    auto form = showActive("frmDropdown");
+    auto& surface = static_cast<SurfaceWidget&>(form->Surface("ColorBox1"));
+    KeyLog keys(events_.log);
+    surface.SetListener(&keys);
+    events_.swallowKeys = swallow;
 
-  QCOMPARE(form->findChild<QtLabel*>("lblHeader(1)"), &dynamic_cast<QtLabel&>(form->LabelNamed("lblHeader(1)")));
-  QCOMPARE(form->LabelNamed("lblHeader(1)").Caption(), std::string("New:"));
-  QVERIFY(form->children().findButton("cmdButton", 0)->isDefault());
-  QCOMPARE(hexagon.size(), QSize(239, 249));
-  QCOMPARE(QRect(overColor.Left(), overColor.Top(), overColor.Width(), overColor.Height()),
-           QRect(0, 249 * 15, 239 * 15, 17 * 15));
-  QCOMPARE(site.AmbientDisplayName(), std::string("ColorHexagon1"));
-  QCOMPARE(site.hWnd(), WidgetHandles::handleOf(hexagon.parentWidget()));
-  newSwatch.Move(60, 75, 780, 540);
-  site.Size(3585, 4020);
-  QCOMPARE(newSwatch.parentWidget(), static_cast<QWidget*>(&frame));
-  QCOMPARE(newSwatch.geometry(), QRect(4, 5, 52, 36));
-  QTRY_COMPARE(hexagon.parentWidget()->size(), QSize(239, 268));
-}
+    QTest::keyClick(&surface, Qt::Key_F4);
 
-void FormWindowTest::unknownChildIsMadeHiddenOnDemand() {
-  auto form = showActive("frmDropdown");
+    QCOMPARE(events_.only("KeyDown|Surface"), expected);
+  }
 
-  auto& surface = static_cast<SurfaceWidget&>(form->Surface("picMissing"));
-  lumo::TextBox& text = form->TextField("txtMissing");
-  text.SetText("grün");
+  // A dialog is activated by the window system; a popup, which Qt never activates, once
+  // it is exposed, and Qt closes it when another window takes the activation.
+  void activationIsReported_data() {
+    QTest::addColumn<QString>("form");
+    QTest::newRow("dialog") << "frmPopup";
+    QTest::newRow("popup") << "frmDropdown";
+  }
 
-  QCOMPARE(&form->Surface("picMissing"), static_cast<lumo::DrawingSurface*>(&surface));
-  QCOMPARE(form->Site("picMissing").hWnd(), WidgetHandles::handleOf(surface.parentWidget()));
-  QCOMPARE(&form->TextField("txtMissing"), &text);
-  QCOMPARE(&form->LabelNamed("lblMissing"), &form->LabelNamed("lblMissing"));
-  QCOMPARE(text.Text(), std::string("grün"));
-  QVERIFY(!surface.isVisible() && !form->children().findLineEdit("txtMissing")->isVisible());
-}
+  void activationIsReported() {
+    QFETCH(QString, form);
+    auto window = showActive(qPrintable(form));
+    QTRY_COMPARE(events_.only("Activate|Deactivate"), QStringList({"Activate"}));
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+
+    QTRY_COMPARE(events_.only("Activate|Deactivate"), QStringList({"Activate", "Deactivate"}));
+  }
+
+  void geometryIsInTwips_data() {
+    QTest::addColumn<QString>("form");
+    QTest::addColumn<bool>("moveWhileHidden");
+    QTest::addColumn<QRect>("twips");
+    QTest::addColumn<QRect>("pixels");
+    QTest::newRow("nearest pixel") << "frmDropdown" << false << QRect(1507, 3008, 3022, 4493) << QRect(100, 201, 201, 300);
+    QTest::newRow("framed") << "frmPopup" << false << QRect(1500, 3000, 7500, 6000) << QRect(100, 200, 500, 400);
+    QTest::newRow("framed, moved hidden") << "frmPopup" << true << QRect(1500, 3000, 7500, 6000) << QRect(100, 200, 500, 400);
+  }
+
+  void geometryIsInTwips() {
+    QFETCH(QString, form);
+    QFETCH(bool, moveWhileHidden);
+    QFETCH(QRect, twips);
+    QFETCH(QRect, pixels);
+    auto window = windows_.designs().load(form.toStdString(), events_);
+
+    if (moveWhileHidden) window->Move(twips.x(), twips.y(), twips.width(), twips.height());
+    window->Show(false);
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    if (!moveWhileHidden) window->Move(twips.x(), twips.y(), twips.width(), twips.height());
+
+    QTRY_COMPARE(window->frameGeometry(), pixels);
+    QCOMPARE(QRect(window->Left(), window->Top(), window->Width(), window->Height()),
+             QRect(pixels.topLeft() * 15, pixels.size() * 15));
+    QCOMPARE(QSize(window->ScaleWidth(), window->ScaleHeight()), window->size() * 15);
+  }
+
+  void unknownChildIsMadeHiddenOnDemand() {
+    auto form = showActive("frmDropdown");
+
+    auto& surface = static_cast<SurfaceWidget&>(form->Surface("picMissing"));
+    lumo::TextBox& text = form->TextField("txtMissing");
+    text.SetText("grün");
+
+    QCOMPARE(&form->Surface("picMissing"), static_cast<lumo::DrawingSurface*>(&surface));
+    QCOMPARE(form->Site("picMissing").hWnd(), WidgetHandles::handleOf(surface.parentWidget()));
+    QCOMPARE(&form->TextField("txtMissing"), &text);
+    QCOMPARE(&form->LabelNamed("lblMissing"), &form->LabelNamed("lblMissing"));
+    QCOMPARE(text.Text(), std::string("grün"));
+    QVERIFY(!surface.isVisible() && !form->children().findLineEdit("txtMissing")->isVisible());
+  }
+
+  // `focused` holds the focus in the shown window before `action` ("" leaves the
+  // window hidden until the action shows it).
+  void placedAndHostedControlsGetTheSameEvents_data() {
+    QTest::addColumn<QString>("focused");
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QStringList>("expected");
+    // The control is first in its window's focus chain, so showing the window focuses it.
+    QTest::newRow("shown at run time") << "" << "show" << QStringList{"Resize", "Show", "EnterFocus", "GotFocus"};
+    QTest::newRow("shown in a designer") << "" << "show in designer" << QStringList{"Resize", "EnterFocus", "GotFocus"};
+    QTest::newRow("hidden") << "outside" << "hide" << QStringList{"Hide"};
+    QTest::newRow("resized") << "outside" << "resize" << QStringList{"Resize"};
+    QTest::newRow("focus into a child") << "outside" << "inner" << QStringList{"EnterFocus"};
+    QTest::newRow("focus onto the control") << "outside" << "control" << QStringList{"EnterFocus", "GotFocus"};
+    QTest::newRow("focus on to a child") << "control" << "inner" << QStringList{"LostFocus"};
+    QTest::newRow("focus out") << "inner" << "outside" << QStringList{"ExitFocus"};
+    QTest::newRow("access key") << "outside" << "Alt+K" << QStringList{"EnterFocus", "GotFocus", "AccessKeyPress k"};
+  }
+
+  void placedAndHostedControlsGetTheSameEvents() {
+    QFETCH(QString, focused);
+    QFETCH(QString, action);
+    QFETCH(QStringList, expected);
+    for (const bool onLibraryForm : {false, true}) {
+      const auto p = std::make_unique<Placement>(onLibraryForm);
+      p->site->setUserMode(action != "show in designer");
+      p->site->SetAccessKeys("k");
+      if (!focused.isEmpty()) {
+        p->window->show();
+        p->window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(p->window));
+        p->Named(focused)->setFocus();
+        QCoreApplication::processEvents();
+      }
+      p->events.log.clear();
+      if (action.startsWith("show")) p->window->show();
+      if (action == "hide") p->control->hide();
+      if (action == "resize") p->control->setMinimumSize(p->control->width() + 10, p->control->height());
+      if (action == "Alt+K") QTest::keyClick(p->outside, Qt::Key_K, Qt::AltModifier);
+      if (QWidget* target = p->Named(action)) target->setFocus();
+      QCoreApplication::processEvents();
+
+      QCOMPARE(p->events.log, expected);
+      p->window->hide();
+    }
+  }
+};
 
 QTEST_MAIN(FormWindowTest)
 #include "form_window_test.moc"

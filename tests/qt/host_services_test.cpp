@@ -1,6 +1,6 @@
 // The Qt host's services: the message box, timers and colour chooser with their modal
 // loops, the control site's ambient properties, and the window system (capture, handles,
-// focus, screen points, forms).
+// focus, screen points, the default host).
 #include <QtTest>
 
 #include <QColorDialog>
@@ -12,11 +12,9 @@
 #include <memory>
 
 #include "InsideModalLoop.h"
-#include "RecordingFormEvents.h"
 #include "colormodel/RuntimeError.h"
 #include "qt/QtColorChooser.h"
 #include "qt/QtControlSite.h"
-#include "qt/QtFormWindow.h"
 #include "qt/QtHost.h"
 #include "qt/QtMessageBox.h"
 #include "qt/QtTimerService.h"
@@ -216,19 +214,6 @@ class HostServicesTest : public QObject {
     QCOMPARE(QPoint(screen.X, screen.Y), window.geometry().topLeft() + QPoint(11, 22));
     const QSize pixels = QGuiApplication::primaryScreen()->geometry().size();
     QCOMPARE(QSize(windows_.ScreenWidth(), windows_.ScreenHeight()), pixels * 15);
-  }
-
-  void formsLoadHiddenByName() {
-    RecordingFormEvents events;
-    for (const char* name : {"frmPopup", "frmDropdown", "frmOther"}) {
-      const std::unique_ptr<lumo::FormWindow> form = windows_.LoadForm(name, events);
-      auto* window = dynamic_cast<QtFormWindow*>(form.get());
-      QVERIFY(window && window->isWindow() && !window->isVisible() && form->IsLoaded());
-      QCOMPARE(window->formName(), QString(name));
-      QCOMPARE(form->hWnd(), WidgetHandles::handleOf(window));
-      QCOMPARE(window->windowFlags().testFlag(Qt::FramelessWindowHint), QString(name) == "frmDropdown");
-    }
-    QVERIFY(events.log.isEmpty());
   }
 
   void defaultHostIsOnePerApplicationAndItsDoEventsRunsQueuedWork() {
