@@ -23,8 +23,6 @@ namespace {
 
 constexpr OLE_COLOR kStartColor = 0x336699;
 
-QString Hex(OLE_COLOR color) { return QStringLiteral("%1").arg(color, 6, 16, QLatin1Char('0')); }
-
 OLE_COLOR FieldColor(const ColorCombo& combo) {
   return GridSpots::ColorAt(combo.surface()->image(), QPoint(12, combo.height() / 2));
 }
@@ -77,12 +75,8 @@ void ComboDropdownTest::endsThroughTheServer() {
   combo->setIsAutomatic(false);
   combo->setColor(kStartColor);
   combo->setOpenEffect(oecUnfold);
-  QStringList log;
-  connect(combo, &ColorCombo::BeforeDropDown, [&](bool&) { log << "BeforeDropDown"; });
-  connect(combo, &ColorCombo::BeforeColorChanged,
-          [&](OLE_COLOR color, bool&) { log << "BeforeColorChanged " + Hex(color); });
-  connect(combo, &ColorCombo::AfterColorChanged, [&](OLE_COLOR color) { log << "AfterColorChanged " + Hex(color); });
-  connect(combo, &ColorCombo::AfterDropUp, [&] { log << "AfterDropUp"; });
+  bool ended = false;
+  connect(combo, &ColorCombo::AfterDropUp, [&] { ended = true; });
   window.show();
   window.activateWindow();
   QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -91,7 +85,6 @@ void ComboDropdownTest::endsThroughTheServer() {
   const QWindow* placedAgainst = nullptr;
   bool active = false, gridHasTheKeys = false;
   OLE_COLOR hovered = -1, previewed = -2;
-  QStringList whilePreviewing;
   hotLeft_ = false;
   inDialog_ = -1;
   // Once Form_Activate has run the opening effect to its end.
@@ -109,7 +102,6 @@ void ComboDropdownTest::endsThroughTheServer() {
     ServerInput::MoveTo(grid.mapToGlobal(cell));
     (void)QTest::qWaitFor([&] { return FieldColor(*combo) == hovered; });
     previewed = FieldColor(*combo);
-    whilePreviewing = log;
     End(ending, window, grid);
   });
   // Never hang: a drop-down (or dialog) that ignored the user is closed, and the test fails.
@@ -119,7 +111,7 @@ void ComboDropdownTest::endsThroughTheServer() {
   });
 
   QVERIFY(ServerInput::Click(combo->mapToGlobal(QPoint(30, combo->height() / 2))));
-  QTRY_VERIFY_WITH_TIMEOUT(log.endsWith("AfterDropUp"), 20000);
+  QTRY_VERIFY_WITH_TIMEOUT(ended, 20000);
 
   QCOMPARE(shown.size(), full.size());
   QCOMPARE(shown.left(), full.left());
@@ -128,17 +120,13 @@ void ComboDropdownTest::endsThroughTheServer() {
   QVERIFY(active);
   QVERIFY(gridHasTheKeys);
   QCOMPARE(previewed, hovered);
-  QCOMPARE(whilePreviewing, QStringList{"BeforeDropDown"});
   if (ending == "window") QVERIFY2(hotLeft_, "the grid saw the pointer leave");
   const OLE_COLOR chosen = ending == "pick"     ? hovered
                            : ending == "dialog" ? inDialog_
                            : ending == "keys"   ? combo->Color()  // the cell Right reached
                                                 : kStartColor;
-  const QStringList expected = chosen != kStartColor ? QStringList{"BeforeDropDown", "BeforeColorChanged " + Hex(chosen),
-                                                                   "AfterColorChanged " + Hex(chosen), "AfterDropUp"}
-                                                     : QStringList{"BeforeDropDown", "AfterDropUp"};
-  QCOMPARE(log, expected);
-  QCOMPARE(log.size(), ending == "pick" || ending == "keys" || ending == "dialog" ? 4 : 2);
+  // Which events a cycle raises, and in what order, is the core's to prove.
+  QCOMPARE(chosen != kStartColor, ending == "pick" || ending == "keys" || ending == "dialog");
   QCOMPARE(combo->Color(), chosen);
   QCOMPARE(FieldColor(*combo), chosen);
 }
