@@ -1,12 +1,9 @@
-// End to end: a real ColorCombo and its real drop-down, driven with QTest while the
-// drop-down's (and the More Colors dialog's) modal loop runs. Which events a pick raises
+// End to end: a real ColorCombo and its real drop-down, and the public More Colors
+// dialog, driven with QTest while their modal loops run. Which events a pick raises
 // and in what order is the core's to prove; here Qt delivers the input, places the popup,
 // paints the previews, relays the events as signals and announces the USER property.
 #include <QPushButton>
 #include <QScreen>
-#include <QStandardItemModel>
-#include <QStyledItemDelegate>
-#include <QTableView>
 #include <QWindow>
 #include <QtTest>
 
@@ -18,6 +15,7 @@
 #include "colorhexagon/ColorHexagon.h"
 #include "morecolors/frmPopup.h"
 #include <LumoColorCombo/ColorCombo.h>
+#include <LumoColorCombo/MoreColorsDialog.h>
 #include "qt/QtFormWindow.h"
 #include "qt/QtHost.h"
 #include "qt/SurfaceWidget.h"
@@ -94,23 +92,6 @@ struct Form {
   ColorCombo* combo = new ColorCombo(&window);
   QStringList log;
   bool cancelDropDown = false;  // what the host answers in BeforeDropDown
-};
-
-// A delegate whose editor is a combo; a pick in it is committed at once.
-class ComboDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override {
-    auto* editor = new ColorCombo(parent);
-    connect(editor, &ColorCombo::currentColorChanged, this,
-            [this, editor] { emit const_cast<ComboDelegate*>(this)->commitData(editor); });
-    return editor;
-  }
-  // Loading the model's colour into the editor is no edit to commit.
-  void setEditorData(QWidget* editor, const QModelIndex& index) const override {
-    const QSignalBlocker quiet(editor);
-    QStyledItemDelegate::setEditorData(editor, index);
-  }
 };
 
 }  // namespace
@@ -245,6 +226,48 @@ class ColorComboWidgetTest : public QObject {
     QCOMPARE(FieldColor(*form.combo), Rgb(chosen));
   }
 
+  // The public dialog, given a widget, belongs to its window rather than to the active
+  // one: it stands over it in its palette. Ok right after opening hands back what the
+  // caller set; Cancel and the title bar hand back nothing.
+  void moreColorsDialogBelongsToTheWidgetsWindowAndTellsHowItEnded_data() {
+    QTest::addColumn<int>("button");  // -1: the title bar
+    QTest::addColumn<int>("slotCount");
+    QTest::newRow("Ok") << 0 << 5;
+    QTest::newRow("Cancel") << 1 << 5;
+    QTest::newRow("title bar") << -1 << 2;
+  }
+
+  void moreColorsDialogBelongsToTheWidgetsWindowAndTellsHowItEnded() {
+    QFETCH(int, button);
+    QFETCH(int, slotCount);
+    const QColor dark(0x20, 0x24, 0x2C);
+    QWidget owner, active;
+    owner.setPalette(QPalette(dark.lighter(150), dark));
+    owner.show();
+    active.show();
+    QApplication::setActiveWindow(&active);
+    MoreColorsDialog dialog(new QWidget(&owner));
+    dialog.setIsAutomatic(false);
+    dialog.setColor(0x3399FF);  // a colour of the honeycomb
+    QColor background;
+    const QWindow* stacksOver = nullptr;
+    const auto user = WhenShown(QStringLiteral("frmPopup"), [&](QtFormWindow& window) {
+      background = window.grab().toImage().pixelColor(1, 1);
+      stacksOver = window.windowHandle()->transientParent();
+      if (button < 0) return static_cast<void>(window.close());
+      QTest::mouseClick(window.children().findButton(QStringLiteral("cmdButton"), button), Qt::LeftButton);
+    });
+
+    const QVariantList result = dialog.exec();
+
+    QVERIFY(user.ended());
+    QCOMPARE(background, dark);
+    QCOMPARE(stacksOver, owner.windowHandle());
+    QCOMPARE(result.size(), slotCount);
+    QCOMPARE(result.value(0).toBool(), button == 0);
+    QCOMPARE(result.value(1), button == 0 ? QVariant(0x3399FF) : QVariant());
+  }
+
   // The width is the container's, the height the font's; QWidget::setEnabled on the combo
   // reaches its Enabled, a disabled window does not.
   void sizeAndEnabledFollowTheWidget() {
@@ -266,33 +289,6 @@ class ColorComboWidgetTest : public QObject {
     QVERIFY(!form.combo->Enabled());
     form.combo->Refresh();  // the control's redraw applies its own setting: still disabled
     QVERIFY(!form.combo->isEnabled());
-  }
-
-  void editsAColourColumnOfAnItemView() {
-    QStandardItemModel model(1, 1);
-    model.setData(model.index(0, 0), QColor(Qt::white));
-    QTableView view;
-    ComboDelegate delegate;
-    view.setItemDelegate(&delegate);
-    view.setModel(&model);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowActive(&view));
-    view.edit(model.index(0, 0));
-    auto* editor = view.viewport()->findChild<ColorCombo*>();
-    QVERIFY(editor != nullptr);
-    QTRY_VERIFY(editor->isVisible());
-    QCOMPARE(editor->currentColor(), QColor(Qt::white));
-    OLE_COLOR picked = 0;
-    const auto user = WhenShown(QStringLiteral("frmDropdown"), [&](QtFormWindow& window) {
-      QPoint target;
-      std::tie(target, picked) = CellOtherThan(*GridBox().Cells(), 0xFFFFFF);
-      QTest::mouseClick(&Grid(window), Qt::LeftButton, {}, target);
-    });
-
-    QTest::mouseClick(editor->surface(), Qt::LeftButton, {}, QPoint(20, 5));
-
-    QVERIFY(user.ended());
-    QCOMPARE(model.data(model.index(0, 0)).value<QColor>().rgb(), Rgb(picked));
   }
 };
 

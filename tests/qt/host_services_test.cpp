@@ -1,11 +1,15 @@
-// The Qt host's services: the message box, timers and colour chooser with their modal
-// loops, the control site's ambient properties, and the window system (capture, handles,
+// The Qt host's services: the message box, timers, colour chooser and About box with
+// their modal loops, the control site's ambient properties, and the window system (capture, handles,
 // focus, screen points, the default host).
 #include <QtTest>
 
+#include <QClipboard>
 #include <QColorDialog>
+#include <QDesktopServices>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 
@@ -13,12 +17,14 @@
 
 #include "InsideModalLoop.h"
 #include "colormodel/RuntimeError.h"
+#include "qt/AboutDialog.h"
 #include "qt/QtColorChooser.h"
 #include "qt/QtControlSite.h"
 #include "qt/QtHost.h"
 #include "qt/QtMessageBox.h"
 #include "qt/QtTimerService.h"
 #include "qt/QtWindowSystem.h"
+#include "qt/Version.h"
 #include "qt/WidgetHandles.h"
 
 using namespace LumoColorCombo::host;
@@ -36,6 +42,16 @@ class PressRecorder : public QObject {
 };
 
 }  // namespace
+
+// Stands in for the browser: records what it is asked to open.
+class UrlCatcher : public QObject {
+  Q_OBJECT
+ public slots:
+  void open(const QUrl& url) { opened << url; }
+
+ public:
+  QList<QUrl> opened;
+};
 
 class HostServicesTest : public QObject {
   Q_OBJECT
@@ -136,6 +152,37 @@ class HostServicesTest : public QObject {
     QCOMPARE(opened, QColor(1, 2, 3));
     QCOMPARE(chooser.Color(), expected);
     QCOMPARE(raised, !confirm && cancelError);
+  }
+
+  void aboutBoxShowsTheVersionsAndSystemInfoAndOpensTheReleasesPage() {
+    QWidget form;
+    auto* owner = new QWidget(&form);
+    UrlCatcher browser;
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "open");
+    QString shown, info;
+    const InsideModalLoop<AboutDialog> closer([&](AboutDialog& dialog) {
+      QVERIFY(dialog.isModal());
+      QCOMPARE(dialog.parentWidget(), &form);
+      for (const QLabel* label : dialog.findChildren<QLabel*>()) shown += label->text();
+      QTest::mouseClick(dialog.findChild<QPushButton*>("systemInfo"), Qt::LeftButton);
+      info = dialog.findChild<QPlainTextEdit*>("systemInfoText")->toPlainText();
+      for (const char* button : {"copy", "checkForUpdates", "ok"}) {
+        QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
+      }
+    });
+    QtHost::instance().runtime().Windows().ShowAboutBox(WidgetHandles::handleOf(owner));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+
+    QVERIFY(closer.ended());
+    QVERIFY(shown.contains(QStringLiteral("LumoColorCombo " LUMOCOLORCOMBO_VERSION_STR)));
+    QVERIFY(shown.contains(QStringLiteral("Qt %1").arg(qVersion())));
+    for (const char* fact : {"LumoColorCombo " LUMOCOLORCOMBO_VERSION_STR, "Qt platform plugin: offscreen",
+                             "device pixel ratio 1", "Style: "}) {
+      QVERIFY2(info.contains(QLatin1String(fact)), fact);
+    }
+    QCOMPARE(QGuiApplication::clipboard()->text(), info);
+    QCOMPARE(browser.opened, QList<QUrl>{QUrl(QStringLiteral(LUMOCOLORCOMBO_RELEASES_URL))});
+    QVERIFY(form.findChildren<AboutDialog*>().isEmpty());  // gone once closed
   }
 
   void siteReportsTheFormsAmbientProperties() {

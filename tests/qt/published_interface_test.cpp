@@ -142,6 +142,16 @@ class PublishedInterfaceTest : public QObject {
     QCOMPARE(copy->size(), source->size());
   }
 
+  // Item views edit a colour through the combo's USER property and its notify signal.
+  void comboPublishesItsColourAsTheUserProperty() {
+    const QMetaProperty user = LumoColorCombo::ColorCombo::staticMetaObject.userProperty();
+    QCOMPARE(user.metaType(), QMetaType::fromType<QColor>());
+    QCOMPARE(user.notifySignal().name(), QByteArray("currentColorChanged"));
+    LumoColorCombo::ColorCombo combo;
+    QVERIFY(user.write(&combo, QColor(Qt::red)));
+    QCOMPARE(combo.Color(), LumoColorCombo::OLE_COLOR(0x0000FF));
+  }
+
   void enumerationsCarryThePublishedNamesAndValues() {
     const QMetaObject& meta = LumoColorCombo::staticMetaObject;
     QStringList published, found;

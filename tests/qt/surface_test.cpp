@@ -242,6 +242,28 @@ class SurfaceTest : public QObject {
     if (format == 1) QVERIFY(std::abs((ink.left() + ink.right()) - (box.left() + box.right())) <= 2);
   }
 
+  // Printed text starts at the current position, its glyphs in the font's size.
+  void printDrawsAtTheCurrentPositionInTheFont_data() {
+    QTest::addColumn<double>("points");
+    QTest::newRow("9 pt") << 9.0;
+    QTest::newRow("24 pt") << 24.0;
+  }
+  void printDrawsAtTheCurrentPositionInTheFont() {
+    QFETCH(double, points);
+    surface->resize(200, 60);
+    surface->SetBackColor(kBack);
+    lumo::StdFont font = surface->Font();
+    font.Size = points;
+    surface->SetFont(font);
+    surface->SetCurrentX(20);
+    surface->SetCurrentY(10);
+    surface->Print("Sample");
+    const QRect ink = Ink(*surface);  // the glyphs' own bearings aside
+    QVERIFY2(qAbs(ink.left() - 20) <= 3 && ink.top() >= 10, qPrintable(QString::number(ink.left())));
+    const double pixels = points * 96 / 72;
+    QVERIFY2(ink.height() > 0.6 * pixels && ink.height() < 1.3 * pixels, qPrintable(QString::number(ink.height())));
+  }
+
   void clsAndButtonFaceFollowThePalette() {
     QSignalSpy changed(surface.get(), &SurfaceWidget::paletteChanged);
     QPalette dark = surface->palette();
