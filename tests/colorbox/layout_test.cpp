@@ -128,7 +128,8 @@ TEST_F(ColorBoxDrawing, EveryCellOfTheSelectedColourGetsASunkenFrameAndTheHotCel
     box->SetColor(box->Cells()->Item(c.cell)->Color());
     const Rect f = Frame(c.cell);
     EXPECT_EQ(surface.CountOf("DrawEdge"), c.frames) << c.style << "/" << c.cell;
-    EXPECT_EQ(CallsAt("DrawEdge", f).at(0).Args, (Args{f.Left, f.Top, f.Right, f.Bottom, edge::SunkenOuter, edge::AllSides}));
+    EXPECT_EQ(CallsAt("DrawEdge", f).at(0).Args,
+              (Args{f.Left, f.Top, f.Right, f.Bottom, edge::SunkenOuter, edge::AllSides}));
   }
   MoveTo(CellCentre(5));
   EXPECT_EQ(CallsAt("DrawEdge", Frame(5)).back().Args[4], edge::RaisedInner);
