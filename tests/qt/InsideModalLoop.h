@@ -19,8 +19,9 @@ class InsideModalLoop {
   using Finder = std::function<Window*()>;
 
   // By default the window is the active modal widget of type `Window`.
-  explicit InsideModalLoop(std::function<void(Window&)> act, Finder find = ActiveModal)
-      : find_(std::move(find)), act_(std::move(act)) {
+  explicit InsideModalLoop(std::function<void(Window&)> act, Finder find = {})
+      : find_(find ? std::move(find) : [] { return qobject_cast<Window*>(QApplication::activeModalWidget()); }),
+        act_(std::move(act)) {
     QObject::connect(&timer_, &QTimer::timeout, [this] { Poll(); });
     timer_.start(0);
   }
@@ -29,15 +30,11 @@ class InsideModalLoop {
   bool ended() const { return acted_ && !leftOpen_; }
   int laterWindows() const { return later_; }
 
-  static Window* ActiveModal() { return qobject_cast<Window*>(QApplication::activeModalWidget()); }
-
  private:
   void Poll() {
     Window* window = find_();
-    if (window == nullptr || !window->isVisible() || !window->windowHandle() ||
-        !window->windowHandle()->isExposed() || window == actedOn_) {
-      return;
-    }
+    const bool exposed = window != nullptr && window->windowHandle() && window->windowHandle()->isExposed();
+    if (!exposed || !window->isVisible() || window == actedOn_) return;
     if (acted_) {
       ++later_;
       window->close();

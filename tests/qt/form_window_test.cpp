@@ -31,22 +31,22 @@ namespace {
 // "KeyDown 115", "Activate"), with the answers a test scripts.
 class RecordingFormEvents : public lumo::FormEvents {
  public:
-  void Form_Activate() override { record(QStringLiteral("Activate")); }
-  void Form_Deactivate() override { record(QStringLiteral("Deactivate")); }
+  void Form_Activate() override { log << QStringLiteral("Activate"); }
+  void Form_Deactivate() override { log << QStringLiteral("Deactivate"); }
   void Form_KeyDown(std::int16_t& keyCode, std::int16_t /*shift*/) override {
-    record(QStringLiteral("KeyDown %1").arg(keyCode));
+    log << QStringLiteral("KeyDown %1").arg(keyCode);
     if (swallowKeys) keyCode = 0;
   }
   void Form_QueryUnload(bool& cancel, std::int32_t unloadMode) override {
-    record(QStringLiteral("QueryUnload %1").arg(unloadMode));
+    log << QStringLiteral("QueryUnload %1").arg(unloadMode);
     cancel = cancelUnload;
   }
-  void Form_Unload() override { record(QStringLiteral("Unload")); }
+  void Form_Unload() override { log << QStringLiteral("Unload"); }
   void ControlClick(const std::string& control, std::int32_t index) override {
-    record(QStringLiteral("Click %1 %2").arg(QString::fromStdString(control)).arg(index));
+    log << QStringLiteral("Click %1 %2").arg(QString::fromStdString(control)).arg(index);
   }
   void ControlLostFocus(const std::string& control) override {
-    record(QStringLiteral("LostFocus %1").arg(QString::fromStdString(control)));
+    log << QStringLiteral("LostFocus %1").arg(QString::fromStdString(control));
   }
 
   // The entries that start with `prefix`, in order.
@@ -55,9 +55,6 @@ class RecordingFormEvents : public lumo::FormEvents {
   QStringList log;
   bool cancelUnload = false;
   bool swallowKeys = false;
-
- private:
-  void record(const QString& entry) { log << entry; }
 };
 
 // A surface's owner that writes the keys it gets into the form's log.

@@ -143,7 +143,6 @@ class PickerWidgetsTest : public QObject {
     QTest::addColumn<int>("item");
     QTest::addRow("Automatic") << 0;
     QTest::addRow("first cell") << 1;
-    QTest::addRow("fifth cell") << 5;
     QTest::addRow("More Colors") << -1;
   }
   void pressActionChoosesAsEnterDoes() {

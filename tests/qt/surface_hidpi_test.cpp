@@ -37,18 +37,13 @@ class SurfaceHiDpiTest : public QObject {
     surface.SetBackColor(kBack);
     surface.SetForeColor(kPen);
     surface.Rectangle(2, 2, 10, 8);
-    const QColor pen(200, 0, 0), back(Qt::white);
-    QCOMPARE(Logical(surface, 2, 2), pen);
-    QCOMPARE(Logical(surface, 9, 7), pen);
-    QCOMPARE(Logical(surface, 10, 7), back);
-    QCOMPARE(Logical(surface, 9, 8), back);
-    QCOMPARE(Logical(surface, 5, 5), back);
-
     surface.MoveToEx(20, 2);
     surface.LineTo(30, 12);
-    QCOMPARE(Logical(surface, 20, 2), pen);
-    QCOMPARE(Logical(surface, 29, 11), pen);
-    QCOMPARE(Logical(surface, 30, 12), back);
+    // The rectangle's ring without its right and bottom edge, and the line without its end.
+    const QColor pen(200, 0, 0), back(Qt::white);
+    const std::pair<QPoint, QColor> expected[] = {{{2, 2}, pen},   {{9, 7}, pen},    {{10, 7}, back}, {{9, 8}, back},
+                                                  {{5, 5}, back},  {{20, 2}, pen},   {{29, 11}, pen}, {{30, 12}, back}};
+    for (const auto& [at, colour] : expected) QCOMPARE(Logical(surface, at.x(), at.y()), colour);
 
     const QImage before = surface.image().copy();
     surface.DrawFocusRect({1, 1, 15, 11});
