@@ -107,13 +107,16 @@ void ComboDropdownTest::endsThroughTheServer() {
     End(ending, window, grid);
   });
   // Never hang: a drop-down (or dialog) that ignored the user is closed, and the test fails.
-  QTimer::singleShot(15000, &window, [] {
+  bool rescued = false;
+  QTimer::singleShot(15000, &window, [&rescued] {
+    rescued = true;
     if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();
     if (lumo::frmDropdown* dropdown = Dropdown()) dropdown->Unload();
   });
 
   QVERIFY(ServerInput::Click(combo->mapToGlobal(QPoint(30, combo->height() / 2))));
   QTRY_VERIFY_WITH_TIMEOUT(ended, 20000);
+  QVERIFY2(!rescued, "the user's ending closed the drop-down");
 
   QCOMPARE(shown.size(), full.size());
   QCOMPARE(shown.left(), full.left());
