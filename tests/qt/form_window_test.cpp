@@ -80,48 +80,26 @@ class RecordingControl : public lumo::ControlEvents {
   QStringList log;
 };
 
-// One control in its window: the control's box with its drawing surface inside, and a
-// text field beside it that holds the focus when the control does not. An application
-// places it on its own window (`form` null), or it is hosted on one of the library's
-// forms and reached by name as the core does.
+// One control hosted on a library form and reached by name as the core does: the
+// control's box with its drawing surface inside, and a text field beside it that holds
+// the focus when the control does not.
 struct Placement {
-  explicit Placement(bool onLibraryForm) {
-    if (onLibraryForm) {
-      form = FormDesigns().load("frmHosting", formEvents);
-      window = form.get();
-      control = &form->children().addHostedControl(QStringLiteral("Hosted"));
-      inner = form->children().findSurface(QStringLiteral("Hosted"));
-      outside = form->children().addTextBox(QStringLiteral("txtOutside")).lineEdit();
-      site = &form->children().site(QStringLiteral("Hosted"));
-    } else {
-      window = new QWidget;
-      control = new QWidget(window);
-      inner = new SurfaceWidget(control);
-      outside = new QLineEdit(window);
-      ownSite = std::make_unique<QtControlSite>(control);
-      site = ownSite.get();
-    }
+  Placement() {
     for (QWidget* focusable : {control, inner}) focusable->setFocusPolicy(Qt::StrongFocus);
     control->setMinimumSize(40, 30);
     outside->move(0, 60);
-    site->Attach(&events);
-  }
-  ~Placement() {
-    ownSite.reset();
-    if (!form) delete window;
+    site.Attach(&events);
   }
   QWidget* Named(const QString& name) const {
     return name == "control" ? control : name == "inner" ? inner : name == "outside" ? outside : nullptr;
   }
   RecordingControl events;  // first in, last out: the site reports to it until it goes
   RecordingFormEvents formEvents;
-  std::unique_ptr<QtFormWindow> form;
-  QWidget* window = nullptr;
-  QWidget* control = nullptr;
-  QWidget* inner = nullptr;
-  QWidget* outside = nullptr;
-  std::unique_ptr<QtControlSite> ownSite;
-  QtControlSite* site = nullptr;
+  std::unique_ptr<QtFormWindow> form = FormDesigns().load("frmHosting", formEvents);
+  QWidget* control = &form->children().addHostedControl(QStringLiteral("Hosted"));
+  QWidget* inner = form->children().findSurface(QStringLiteral("Hosted"));
+  QWidget* outside = form->children().addTextBox(QStringLiteral("txtOutside")).lineEdit();
+  QtControlSite& site = form->children().site(QStringLiteral("Hosted"));
 };
 
 }  // namespace
@@ -316,7 +294,7 @@ class FormWindowTest : public QObject {
 
   // `focused` holds the focus in the shown window before `action` ("" leaves the
   // window hidden until the action shows it).
-  void placedAndHostedControlsGetTheSameEvents_data() {
+  void hostedControlGetsItsContainerEvents_data() {
     QTest::addColumn<QString>("focused");
     QTest::addColumn<QString>("action");
     QTest::addColumn<QStringList>("expected");
@@ -332,32 +310,29 @@ class FormWindowTest : public QObject {
     QTest::newRow("access key") << "outside" << "Alt+K" << QStringList{"EnterFocus", "GotFocus", "AccessKeyPress k"};
   }
 
-  void placedAndHostedControlsGetTheSameEvents() {
+  void hostedControlGetsItsContainerEvents() {
     QFETCH(QString, focused);
     QFETCH(QString, action);
     QFETCH(QStringList, expected);
-    for (const bool onLibraryForm : {false, true}) {
-      const auto p = std::make_unique<Placement>(onLibraryForm);
-      p->site->setUserMode(action != "show in designer");
-      p->site->SetAccessKeys("k");
-      if (!focused.isEmpty()) {
-        p->window->show();
-        p->window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(p->window));
-        p->Named(focused)->setFocus();
-        QCoreApplication::processEvents();
-      }
-      p->events.log.clear();
-      if (action.startsWith("show")) p->window->show();
-      if (action == "hide") p->control->hide();
-      if (action == "resize") p->control->setMinimumSize(p->control->width() + 10, p->control->height());
-      if (action == "Alt+K") QTest::keyClick(p->outside, Qt::Key_K, Qt::AltModifier);
-      if (QWidget* target = p->Named(action)) target->setFocus();
+    Placement p;
+    p.site.setUserMode(action != "show in designer");
+    p.site.SetAccessKeys("k");
+    if (!focused.isEmpty()) {
+      p.form->show();
+      p.form->activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(p.form.get()));
+      p.Named(focused)->setFocus();
       QCoreApplication::processEvents();
-
-      QCOMPARE(p->events.log, expected);
-      p->window->hide();
     }
+    p.events.log.clear();
+    if (action.startsWith("show")) p.form->show();
+    if (action == "hide") p.control->hide();
+    if (action == "resize") p.control->setMinimumSize(p.control->width() + 10, p.control->height());
+    if (action == "Alt+K") QTest::keyClick(p.outside, Qt::Key_K, Qt::AltModifier);
+    if (QWidget* target = p.Named(action)) target->setFocus();
+    QCoreApplication::processEvents();
+
+    QCOMPARE(p.events.log, expected);
   }
 };
 
