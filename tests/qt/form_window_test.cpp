@@ -277,6 +277,19 @@ class FormWindowTest : public QObject {
     QCOMPARE(QSize(window->ScaleWidth(), window->ScaleHeight()), window->size() * 15);
   }
 
+  // The popup's swatches sit inside their frame, placed in twips like any surface; a
+  // site sizes its control's box in twips.
+  void popupChildrenSitWhereTheDesignPutsThem() {
+    auto form = showActive("frmPopup");
+    auto& newSwatch = static_cast<SurfaceWidget&>(form->Surface("picNew"));
+    newSwatch.Move(60, 75, 780, 540);
+    form->Site("ColorHexagon1").Size(3585, 4020);
+    QCOMPARE(newSwatch.parentWidget(), form->children().findSurface(QStringLiteral("picColorBack")));
+    QCOMPARE(newSwatch.geometry(), QRect(4, 5, 52, 36));
+    const QWidget* hexagonBox = form->children().findSurface(QStringLiteral("ColorHexagon1"))->parentWidget();
+    QTRY_COMPARE(hexagonBox->size(), QSize(239, 268));
+  }
+
   void unknownChildIsMadeHiddenOnDemand() {
     auto form = showActive("frmDropdown");
 
