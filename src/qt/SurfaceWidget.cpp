@@ -136,8 +136,27 @@ QSize SurfaceWidget::deviceSize() const {
 }
 
 QImage& SurfaceWidget::backing() const {
-  if (image_.size() != deviceSize() || image_.devicePixelRatio() != ratio_) rebuildImage();
+  if (image_.size() != deviceSize() || image_.devicePixelRatio() != ratio_) {
+    pending_.run();
+    rebuildImage();
+  }
   return image_;
+}
+
+const QImage& SurfaceWidget::image() const {
+  QImage& image = backing();
+  pending_.run();
+  return image;
+}
+
+template <class Step>
+void SurfaceWidget::draw(Step&& step) {
+  if (isVisible()) {
+    pending_.run();
+    step();
+  } else {
+    pending_.add(std::forward<Step>(step));
+  }
 }
 
 // Asking Qt for the ratio walks to the window and its screen; every primitive needs it,
@@ -198,14 +217,17 @@ void SurfaceWidget::resizeEvent(QResizeEvent* event) {
 void SurfaceWidget::paintEvent(QPaintEvent* /*event*/) {
   syncDevicePixelRatio();
   QPainter painter(this);
-  painter.drawImage(QPointF(0, 0), backing());
+  painter.drawImage(QPointF(0, 0), image());
 }
 
 // Everything drawn is already in the image; what is not on screen yet is the damage.
 void SurfaceWidget::Refresh() { flushDamage(); }
 
 void SurfaceWidget::ClearSurface() {
-  backing().fill(rgb(BackColor()));
+  backing();
+  // Every pixel is about to be overwritten: what was still pending is moot.
+  pending_.drop();
+  draw([this, color = rgb(BackColor())] { image_.fill(color); });
   damage(rect());
 }
 
@@ -214,17 +236,19 @@ void SurfaceWidget::PaintPicture(const lumo::DrawingSurface& source, std::int32_
   if (surface == nullptr || backing().isNull()) return;
   // A copy, so that a surface can paint itself onto itself.
   const QImage picture = surface->image();
-  QPainter painter(&backing());
-  painter.drawImage(QPointF(x, y), picture);
+  draw([this, picture, x, y] {
+    QPainter painter(&image_);
+    painter.drawImage(QPointF(x, y), picture);
+  });
   damage(QRect(QPoint(x, y), picture.deviceIndependentSize().toSize() + QSize(1, 1)));
 }
 
 // --- shapes -------------------------------------------------------------------------
 
-void SurfaceWidget::strokePolyline(const std::vector<lumo::Point>& points, QRgb color) {
-  PixelCanvas canvas(backing());
+void SurfaceWidget::strokePolyline(const std::vector<lumo::Point>& points, QRgb color, int penWidth) {
+  PixelCanvas canvas(image_);
   for (std::size_t i = 0; i < points.size(); ++i) {
-    canvas.line(points[i], points[(i + 1) % points.size()], color, DrawWidth());
+    canvas.line(points[i], points[(i + 1) % points.size()], color, penWidth);
   }
 }
 
@@ -232,41 +256,55 @@ void SurfaceWidget::Rectangle(std::int32_t left, std::int32_t top, std::int32_t 
   if (left > right) std::swap(left, right);
   if (top > bottom) std::swap(top, bottom);
   if (left == right || top == bottom) return;
-  if (FillStyle() == lumo::fill::Solid) {
-    PixelCanvas(backing()).fillRect(left + 1, top + 1, right - 1, bottom - 1, rgb(FillColor()));
-  }
-  // The outline runs through the last column and row inside the rectangle; each side
-  // stops short of the next corner, which the next side draws.
-  strokePolyline({{left, top}, {right - 1, top}, {right - 1, bottom - 1}, {left, bottom - 1}}, rgb(ForeColor()));
+  backing();
+  const bool solid = FillStyle() == lumo::fill::Solid;
+  draw([this, left, top, right, bottom, solid, fill = rgb(FillColor()), pen = rgb(ForeColor()),
+        width = static_cast<int>(DrawWidth())] {
+    if (solid) PixelCanvas(image_).fillRect(left + 1, top + 1, right - 1, bottom - 1, fill);
+    // The outline runs through the last column and row inside the rectangle; each side
+    // stops short of the next corner, which the next side draws.
+    strokePolyline({{left, top}, {right - 1, top}, {right - 1, bottom - 1}, {left, bottom - 1}}, pen, width);
+  });
   damageShape(left, top, right, bottom);
 }
 
 void SurfaceWidget::Polygon(const std::vector<lumo::Point>& points) {
   if (points.size() < 2) return;
-  if (FillStyle() == lumo::fill::Solid) {
-    PixelCanvas canvas(backing());
-    const QRgb fill = rgb(FillColor());
-    Rasterizer::polygonInterior(points, 0, height(),
-                                [&](int y, int first, int last) { canvas.fillRect(first, y, last, y + 1, fill); });
-  }
-  // Each side leaves out its end point, which is the start of the next side, so every
-  // vertex is drawn exactly once.
-  strokePolyline(points, rgb(ForeColor()));
+  backing();
+  draw([this, points, solid = FillStyle() == lumo::fill::Solid, rows = height(), fill = rgb(FillColor()),
+        pen = rgb(ForeColor()), width = static_cast<int>(DrawWidth())] {
+    if (solid) {
+      PixelCanvas canvas(image_);
+      Rasterizer::polygonInterior(points, 0, rows,
+                                  [&](int y, int first, int last) { canvas.fillRect(first, y, last, y + 1, fill); });
+    }
+    // Each side leaves out its end point, which is the start of the next side, so every
+    // vertex is drawn exactly once.
+    strokePolyline(points, pen, width);
+  });
   const auto [minX, maxX] = std::minmax_element(points.begin(), points.end(), [](auto a, auto b) { return a.X < b.X; });
   const auto [minY, maxY] = std::minmax_element(points.begin(), points.end(), [](auto a, auto b) { return a.Y < b.Y; });
   damageShape(minX->X, minY->Y, maxX->X, maxY->Y);
 }
 
 void SurfaceWidget::DrawLine(lumo::Point from, lumo::Point to) {
-  PixelCanvas(backing()).line(from, to, rgb(ForeColor()), DrawWidth());
+  backing();
+  draw([this, from, to, pen = rgb(ForeColor()), width = static_cast<int>(DrawWidth())] {
+    PixelCanvas(image_).line(from, to, pen, width);
+  });
   damageShape(from.X, from.Y, to.X, to.Y);
 }
 
 void SurfaceWidget::DrawEdge(const lumo::Rect& rect, std::int32_t edgeKind, std::int32_t flags) {
-  PixelCanvas canvas(backing());
+  backing();
+  std::vector<std::pair<EdgeStroke, QRgb>> strokes;
   for (const EdgeStroke& stroke : EdgeStrokes::of(rect, edgeKind, flags)) {
-    canvas.line(stroke.From, stroke.To, SystemColors::systemColor(stroke.SystemColorIndex, palette()).rgb(), 1);
+    strokes.emplace_back(stroke, SystemColors::systemColor(stroke.SystemColorIndex, palette()).rgb());
   }
+  draw([this, strokes = std::move(strokes)] {
+    PixelCanvas canvas(image_);
+    for (const auto& [stroke, color] : strokes) canvas.line(stroke.From, stroke.To, color, 1);
+  });
   damage(QRect(QPoint(rect.Left - 1, rect.Top - 1), QPoint(rect.Right + 1, rect.Bottom + 1)));
 }
 
@@ -274,11 +312,14 @@ void SurfaceWidget::DrawFocusRect(const lumo::Rect& rect) {
   // Four one-pixel bands inverted through a checkerboard pattern: top and bottom rows
   // full width, the side columns between them.
   const auto [left, top, right, bottom] = rect;
-  PixelCanvas canvas(backing());
-  canvas.invertCheckerboard(left, top, right, top + 1);
-  canvas.invertCheckerboard(left, bottom - 1, right, bottom);
-  canvas.invertCheckerboard(left, top + 1, left + 1, bottom - 1);
-  canvas.invertCheckerboard(right - 1, top + 1, right, bottom - 1);
+  backing();
+  draw([this, left, top, right, bottom] {
+    PixelCanvas canvas(image_);
+    canvas.invertCheckerboard(left, top, right, top + 1);
+    canvas.invertCheckerboard(left, bottom - 1, right, bottom);
+    canvas.invertCheckerboard(left, top + 1, left + 1, bottom - 1);
+    canvas.invertCheckerboard(right - 1, top + 1, right, bottom - 1);
+  });
   damage(QRect(QPoint(left - 1, top - 1), QPoint(right + 1, bottom + 1)));
 }
 
@@ -307,25 +348,30 @@ void SurfaceWidget::DrawTextA(const std::string& text, const lumo::Rect& rect, s
   const QRectF box(rect.Left, rect.Top, rect.Right - rect.Left, rect.Bottom - rect.Top);
   const bool clip = !HasBit(format, kFormatNoClip);
   if (backing().isNull() || (clip && (box.width() <= 0 || box.height() <= 0))) return;
-  QPainter painter(&backing());
-  if (clip) painter.setClipRect(box);
-  painter.setFont(qfont_);
-  painter.setPen(resolve(ForeColor()));
-  painter.drawText(box, TextFlags(format), QString::fromStdString(text));
+  draw([this, box, clip, font = qfont_, pen = resolve(ForeColor()), flags = TextFlags(format),
+        line = QString::fromStdString(text)] {
+    QPainter painter(&image_);
+    if (clip) painter.setClipRect(box);
+    painter.setFont(font);
+    painter.setPen(pen);
+    painter.drawText(box, flags, line);
+  });
   damage(clip ? box.toAlignedRect() : QWidget::rect());
 }
 
 void SurfaceWidget::DrawPrintedText(double x, double y, const std::string& text) {
   if (backing().isNull()) return;
-  QPainter painter(&backing());
-  painter.setFont(qfont_);
-  painter.setPen(resolve(ForeColor()));
-  const QFontMetricsF metrics(qfont_);
-  double baseline = y + metrics.ascent();
-  for (const QString& line : Lines(text)) {
-    painter.drawText(QPointF(x, baseline), line);
-    baseline += metrics.lineSpacing();
-  }
+  draw([this, x, y, font = qfont_, pen = resolve(ForeColor()), lines = Lines(text)] {
+    QPainter painter(&image_);
+    painter.setFont(font);
+    painter.setPen(pen);
+    const QFontMetricsF metrics(font);
+    double baseline = y + metrics.ascent();
+    for (const QString& line : lines) {
+      painter.drawText(QPointF(x, baseline), line);
+      baseline += metrics.lineSpacing();
+    }
+  });
   damage(rect());
 }
 

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "colormodel/DrawingSurface.h"
+#include "qt/PendingDrawing.h"
 
 namespace LumoColorCombo::host {
 
@@ -35,7 +36,7 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
 
   // What has been drawn, at the device resolution (its devicePixelRatio is the
   // widget's). Pixel (x, y) of a 1x image is logical pixel (x, y).
-  const QImage& image() const { return backing(); }
+  const QImage& image() const;
   // The widget behind a handle from hWnd(), or null once it is gone.
   static QWidget* widgetFromHandle(lumo::WindowHandle handle);
   // The QFont a font description stands for: the size in points at the platform's
@@ -97,7 +98,13 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   QRgb rgb(lumo::OLE_COLOR color) const;
   // The image, first brought to the widget's current size and pixel ratio. Qt sends no
   // resize event to a hidden widget, yet the controls draw before they are shown.
+  // Steps still pending go into the image before it changes size.
   QImage& backing() const;
+  // Puts a drawing step into the image: now while the widget is visible, when it is
+  // painted or its image is read while hidden (PendingDrawing). A step writes into
+  // image_ as backing() has sized it and carries every colour and pen it needs.
+  template <class Step>
+  void draw(Step&& step);
   QSize deviceSize() const;
   void rebuildImage() const;
   void readRatio();
@@ -106,13 +113,14 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   void damageShape(int left, int top, int right, int bottom);
   void flushDamage();
   void syncDevicePixelRatio();
-  void strokePolyline(const std::vector<lumo::Point>& points, QRgb color);
+  void strokePolyline(const std::vector<lumo::Point>& points, QRgb color, int penWidth);
   // The tip text last assigned, handed to QWidget::setToolTip first if it is new.
   QString takeToolTip();
   bool deliverKey(QKeyEvent* event);
   static bool isNavigationKey(int qtKey);
 
   mutable QImage image_;
+  mutable PendingDrawing pending_;
   qreal ratio_ = 1.0;  // the widget's device pixel ratio, read when it can change
   QRegion damage_;
   bool inMove_ = false;  // a pointer move is being handled; it flushes the damage itself
