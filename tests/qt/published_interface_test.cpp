@@ -150,6 +150,7 @@ class PublishedInterfaceTest : public QObject {
     LumoColorCombo::ColorCombo combo;
     QVERIFY(user.write(&combo, QColor(Qt::red)));
     QCOMPARE(combo.Color(), LumoColorCombo::OLE_COLOR(0x0000FF));
+    QCOMPARE(user.read(&combo).value<QColor>(), QColor(Qt::red));  // a colour, no longer automatic
   }
 
   void enumerationsCarryThePublishedNamesAndValues() {
