@@ -212,8 +212,7 @@ bool ColorBoxPalettes::Load(std::int32_t style, CColorboxCol& cells) {
     errors_.Trap(kModule, palette.procedure, [&] {
       const Faces& faces = palette.faces(errors_);
       cells.Clear();
-      cells.Reserve(static_cast<std::int32_t>(faces.size()));
-      for (const FacePtr& face : faces) cells.Add(face);
+      cells.AddAll(faces);
       if (palette.marker != nullptr) marker_ = palette.marker;
       columns_ = palette.columns;
     });

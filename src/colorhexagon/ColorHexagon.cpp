@@ -303,9 +303,7 @@ void ColorHexagon::ApplyDefaults() {
 
 void ColorHexagon::LoadHexColors() {
   Trap("LoadHexColors", [&] {
-    CColorboxCol& cells = LiveCells();
-    cells.Reserve(HexagonTable::CellCount);
-    for (const FacePtr& face : HexagonTable::Faces()) cells.Add(face);
+    LiveCells().AddAll(HexagonTable::Faces());
   });
 }
 

@@ -32,16 +32,6 @@ CellPtr CColorboxCol::Add(const std::string& sName, OLE_COLOR lColor, std::int32
   return result;
 }
 
-CellPtr CColorboxCol::Add(FacePtr face) {
-  CellPtr result;
-  errors_.Trap(kModule, "Add", [&] {
-    auto cell = std::make_shared<CColorboxEl>(errors_, std::move(face));
-    Append(cell);
-    result = std::move(cell);
-  });
-  return result;
-}
-
 void CColorboxCol::Append(CellPtr cell) {
   cell->SetParent(this);
   cells_.push_back(cell);
@@ -49,8 +39,15 @@ void CColorboxCol::Append(CellPtr cell) {
   cell->SetPosition(newIndex_);
 }
 
-void CColorboxCol::Reserve(std::int32_t count) {
-  if (count > 0) cells_.reserve(cells_.size() + static_cast<std::size_t>(count));
+void CColorboxCol::AddAll(const std::vector<FacePtr>& faces) {
+  errors_.Trap(kModule, "Add", [&] {
+    auto block = std::make_shared<std::vector<CColorboxEl>>();
+    block->reserve(faces.size());
+    for (const FacePtr& face : faces) block->emplace_back(errors_, face);
+    cells_.reserve(cells_.size() + faces.size());
+    // Each cell shares the block's ownership: a held cell keeps its block alive.
+    for (CColorboxEl& cell : *block) Append(CellPtr(block, &cell));
+  });
 }
 
 CellPtr CColorboxCol::At(std::int32_t index) const {

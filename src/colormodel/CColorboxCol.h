@@ -26,10 +26,9 @@ class CColorboxCol {
 
   CellPtr Add(const std::string& sName, OLE_COLOR lColor, std::int32_t lX, std::int32_t lY,
               bool bIsLarge = false);
-  // Adds a cell showing a face that a table shares between controls.
-  CellPtr Add(FacePtr face);
-  // Makes room for `count` more cells, so a table loads without regrowing the list.
-  void Reserve(std::int32_t count);
+  // Adds one cell per face of a shared table, as that many Adds would. The cells are
+  // made in one block, which lives while any of them is held.
+  void AddAll(const std::vector<FacePtr>& faces);
   // The cell at 1-based `index`; out of range reports "index out of range" and answers null.
   CellPtr Item(std::int32_t index) const;
   std::int32_t Count() const;
