@@ -64,8 +64,12 @@ TEST_P(Styles, DrawTheirFrameAndDropButton) {
   const auto edges = surface.CallsOf("DrawEdge");
   const bool button = s.buttonWidth > 0;
   ASSERT_EQ(edges.size(), (s.edgeRoundTheField ? 1u : 0u) + (button ? 1u : 0u));
-  if (s.edgeRoundTheField) EXPECT_EQ(edges.front().Args, (Args{0, 0, w, h, edge::Raised, edge::AllSides}));
-  if (button) EXPECT_EQ(edges.back().Args, (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Raised, edge::AllSides}));
+  if (s.edgeRoundTheField) {
+    EXPECT_EQ(edges.front().Args, (Args{0, 0, w, h, edge::Raised, edge::AllSides}));
+  }
+  if (button) {
+    EXPECT_EQ(edges.back().Args, (Args{b.Left, b.Top, b.Right, b.Bottom, edge::Raised, edge::AllSides}));
+  }
   EXPECT_EQ(lines.size(), s.frameLines);
   if (s.edgeRoundTheField) {  // an etched separator: shadow left of the button, highlight on its edge
     EXPECT_EQ(lines, (PenLines{{{b.Left - 1, 2, b.Left - 1, b.Bottom}, sys::ButtonShadow},

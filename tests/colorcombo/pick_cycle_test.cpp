@@ -57,7 +57,7 @@ TEST_P(Cycles, RaiseTheirEventsInOrderAndLeaveTheirColour) {
   EXPECT_EQ(text::Hex(combo->Color()), text::Hex(c.endColor));
   EXPECT_EQ(combo->DropButtonPressed(), c.cancelIn.find("Changed") != std::string::npos);
   EXPECT_EQ(host.Windows.LoadedForms.empty(), c.cancelIn == "BeforeDropDown");
-  if (LastDropdown() != nullptr) EXPECT_FALSE(LastDropdown()->ModalLeftOpen);
+  if (LastDropdown() != nullptr) { EXPECT_FALSE(LastDropdown()->ModalLeftOpen); }
   EXPECT_EQ(Shared(), nullptr);
   EXPECT_EQ(host.Windows.Capture, 0u);
   EXPECT_TRUE(host.Messages.Shown.empty());

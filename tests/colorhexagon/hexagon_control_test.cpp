@@ -129,7 +129,7 @@ TEST_P(HexagonColorSetter, MarksTheExactCellOrCellOneAndReportsTheSetColour) {
   EXPECT_EQ(Selected(), GetParam().markedCell);
   EXPECT_EQ(hexagon.Color(), GetParam().color);
   EXPECT_EQ(events.Seen, *GetParam().event ? std::vector<std::string>{GetParam().event} : std::vector<std::string>{});
-  if (GetParam().markedCell == 0) EXPECT_EQ(screen.CountOf("Polygon"), 0);
+  if (GetParam().markedCell == 0) { EXPECT_EQ(screen.CountOf("Polygon"), 0); }
 }
 
 INSTANTIATE_TEST_SUITE_P(

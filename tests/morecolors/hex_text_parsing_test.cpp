@@ -60,7 +60,7 @@ TEST_P(TypedText, SetsTheTypedColourOrFallsBack) {
   Type(t.text);
   EXPECT_EQ(std::tuple(dialog.IsAutomatic(), dialog.Color(), BoxText()),
             std::tuple(t.endAutomatic, t.color, std::string(t.boxText)));
-  if (!t.endAutomatic) EXPECT_EQ(Swatch("picNew"), t.color);
+  if (!t.endAutomatic) { EXPECT_EQ(Swatch("picNew"), t.color); }
   EXPECT_TRUE(host.Messages.Shown.empty());
 }
 
