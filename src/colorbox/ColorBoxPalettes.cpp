@@ -105,12 +105,15 @@ void AppendAll(Faces& faces, std::span<const NamedColor> colors) {
   for (const NamedColor& c : colors) Append(faces, c.name, FromRedFirst(c.rrggbb));
 }
 
-Faces Standard16(bool withBW) {
+// A listed table of named colours, with the grey row after it for the "WithBW" variants.
+Faces Listed(std::span<const NamedColor> colors, bool withBW) {
   Faces faces;
-  AppendAll(faces, kStandard16);
+  AppendAll(faces, colors);
   if (withBW) AppendAll(faces, kGreyRow);
   return faces;
 }
+
+Faces Standard16(bool withBW) { return Listed(kStandard16, withBW); }
 
 Faces GreyScale256() {
   Faces faces;
@@ -133,12 +136,7 @@ Faces Palette256(bool withBW) {
   return faces;
 }
 
-Faces Palette48(bool withBW) {
-  Faces faces;
-  AppendAll(faces, kPalette48);
-  if (withBW) AppendAll(faces, kGreyRow);
-  return faces;
-}
+Faces Palette48(bool withBW) { return Listed(kPalette48, withBW); }
 
 Faces Palette40() {
   Faces faces;
