@@ -151,6 +151,7 @@ const QImage& SurfaceWidget::image() const {
 
 template <class Step>
 void SurfaceWidget::draw(Step&& step) {
+  backing();  // sized now, so that a kept step meets the image it was drawn for
   if (isVisible()) {
     pending_.run();
     step();
@@ -224,7 +225,6 @@ void SurfaceWidget::paintEvent(QPaintEvent* /*event*/) {
 void SurfaceWidget::Refresh() { flushDamage(); }
 
 void SurfaceWidget::ClearSurface() {
-  backing();
   // Every pixel is about to be overwritten: what was still pending is moot.
   pending_.drop();
   draw([this, color = rgb(BackColor())] { image_.fill(color); });
@@ -256,7 +256,6 @@ void SurfaceWidget::Rectangle(std::int32_t left, std::int32_t top, std::int32_t 
   if (left > right) std::swap(left, right);
   if (top > bottom) std::swap(top, bottom);
   if (left == right || top == bottom) return;
-  backing();
   const bool solid = FillStyle() == lumo::fill::Solid;
   draw([this, left, top, right, bottom, solid, fill = rgb(FillColor()), pen = rgb(ForeColor()),
         width = static_cast<int>(DrawWidth())] {
@@ -270,7 +269,6 @@ void SurfaceWidget::Rectangle(std::int32_t left, std::int32_t top, std::int32_t 
 
 void SurfaceWidget::Polygon(const std::vector<lumo::Point>& points) {
   if (points.size() < 2) return;
-  backing();
   draw([this, points, solid = FillStyle() == lumo::fill::Solid, rows = height(), fill = rgb(FillColor()),
         pen = rgb(ForeColor()), width = static_cast<int>(DrawWidth())] {
     if (solid) {
@@ -288,7 +286,6 @@ void SurfaceWidget::Polygon(const std::vector<lumo::Point>& points) {
 }
 
 void SurfaceWidget::DrawLine(lumo::Point from, lumo::Point to) {
-  backing();
   draw([this, from, to, pen = rgb(ForeColor()), width = static_cast<int>(DrawWidth())] {
     PixelCanvas(image_).line(from, to, pen, width);
   });
@@ -296,7 +293,6 @@ void SurfaceWidget::DrawLine(lumo::Point from, lumo::Point to) {
 }
 
 void SurfaceWidget::DrawEdge(const lumo::Rect& rect, std::int32_t edgeKind, std::int32_t flags) {
-  backing();
   std::vector<std::pair<EdgeStroke, QRgb>> strokes;
   for (const EdgeStroke& stroke : EdgeStrokes::of(rect, edgeKind, flags)) {
     strokes.emplace_back(stroke, SystemColors::systemColor(stroke.SystemColorIndex, palette()).rgb());
@@ -312,7 +308,6 @@ void SurfaceWidget::DrawFocusRect(const lumo::Rect& rect) {
   // Four one-pixel bands inverted through a checkerboard pattern: top and bottom rows
   // full width, the side columns between them.
   const auto [left, top, right, bottom] = rect;
-  backing();
   draw([this, left, top, right, bottom] {
     PixelCanvas canvas(image_);
     canvas.invertCheckerboard(left, top, right, top + 1);
