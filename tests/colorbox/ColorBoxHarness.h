@@ -80,11 +80,6 @@ class ColorBoxHarness : public ::testing::Test, public ColorBoxEvents {
     Log.clear();
     surface.ClearCalls();
   }
-  Lines Messages() const {
-    Lines prompts;
-    for (const auto& m : host.Messages.Shown) prompts.push_back(m.Prompt);
-    return prompts;
-  }
   // The recorded calls of `op` (every op when empty) drawn at exactly this rectangle.
   std::vector<SurfaceCall> CallsAt(const std::string& op, const Rect& r) const {
     std::vector<SurfaceCall> found;

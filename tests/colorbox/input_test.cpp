@@ -97,10 +97,10 @@ TEST_F(ColorBoxKeys, HotIndexLeftOverFromALargerPaletteIsReportedNotThrown) {
   surface.Key(keycode::Left);
   surface.Key(keycode::Enter);
   EXPECT_EQ(box->HotIndex(), 40);
-  ASSERT_EQ(Messages().size(), 4u);  // the collection's own reports, then ours
-  EXPECT_EQ(Messages()[1], "Error Number: 91\r\nModule: ColorBox\r\nProcedure: DrawButton\r\n\r\nObject not set\r\n");
-  EXPECT_EQ(Messages()[3],
-            "Error Number: 91\r\nModule: ColorBox\r\nProcedure: picScreen_KeyDown\r\n\r\nObject not set\r\n");
+  const std::string item = "Error Number: 9\r\nModule: CColorboxCol\r\nProcedure: Item\r\n\r\nIndex out of range\r\n";
+  EXPECT_EQ(host.Messages.Prompts(),  // the collection's own report, then ours, for each key
+            (Lines{item, "Error Number: 91\r\nModule: ColorBox\r\nProcedure: DrawButton\r\n\r\nObject not set\r\n", item,
+                   "Error Number: 91\r\nModule: ColorBox\r\nProcedure: picScreen_KeyDown\r\n\r\nObject not set\r\n"}));
   EXPECT_TRUE(Log.empty());
 }
 

@@ -63,7 +63,7 @@ TEST_P(ColorBoxSetters, SetterNotifiesEvenWhenItsRepaintReportsAnError) {
   surface.LineHeight = 3e9;  // the text height no longer fits 32 bits
   GetParam().set(*box);
   EXPECT_EQ(site.Changed, (Lines{GetParam().label}));
-  EXPECT_EQ(Messages().at(0), "Error Number: 6\r\nModule: ColorBox\r\nProcedure: GetTextHeight\r\n\r\nOverflow\r\n");
+  EXPECT_EQ(host.Messages.Prompts().at(0), "Error Number: 6\r\nModule: ColorBox\r\nProcedure: GetTextHeight\r\n\r\nOverflow\r\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -119,7 +119,7 @@ TEST_F(ColorBoxProperties, AnUnknownStyleReadFromAFormKeepsThePalette) {
 TEST_F(ColorBoxProperties, ExtentTooLargeForTwipsIsReportedByRefresh) {
   surface.LineHeight = 2e8;
   box->Refresh();
-  EXPECT_EQ(Messages(), (Lines{"Error Number: 6\r\nModule: ColorBox\r\nProcedure: Refresh\r\n\r\nOverflow\r\n"}));
+  EXPECT_EQ(host.Messages.Prompts(), (Lines{"Error Number: 6\r\nModule: ColorBox\r\nProcedure: Refresh\r\n\r\nOverflow\r\n"}));
 }
 
 TEST_F(ColorBoxProperties, ResizeByTheHostIsAnsweredWithTheSurfaceExtent) {

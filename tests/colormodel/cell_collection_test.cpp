@@ -18,9 +18,7 @@ class CellCollection : public ::testing::Test {
     for (const auto& cell : cells) names.push_back(cell->Name());
     return names;
   }
-  std::string LastMessage() const {
-    return host.Messages.Shown.empty() ? std::string() : host.Messages.Shown.back().Prompt;
-  }
+  std::string LastMessage() const { return host.Messages.Prompts().empty() ? "" : host.Messages.Prompts().back(); }
 
   testing::TestHost host;
   CColorboxCol cells{host.Errors()};
@@ -129,11 +127,9 @@ TEST(CellColorText, GivesTheComponentsOrAReportUnderTheCellsName) {
     cell.SetColor(c.color);
     EXPECT_EQ(cell.GetColorString(), c.commaText);
     EXPECT_EQ(cell.GetColorStringHex(), c.hashText);
-    Texts shown;
-    for (const auto& m : host.Messages.Shown) shown.push_back(m.Prompt);
     const Texts reports{"Error Number: 5\r\nModule: Red\r\nProcedure: GetColorString\r\n\r\nInvalid argument\r\n",
                         "Error Number: 5\r\nModule: Red\r\nProcedure: GetColorStringHex\r\n\r\nInvalid argument\r\n"};
-    EXPECT_EQ(shown, *c.commaText ? Texts{} : reports) << c.color;
+    EXPECT_EQ(host.Messages.Prompts(), *c.commaText ? Texts{} : reports) << c.color;
   }
 }
 

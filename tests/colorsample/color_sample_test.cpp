@@ -26,12 +26,6 @@ using Args = std::vector<std::int32_t>;
 const StdFont kTahoma{"Tahoma", 9.0};
 const StdFont kCourier{"Courier New", 12.0, true};
 
-// A container with a window of its own, told apart from "no window".
-class HandleSite : public RecordingSite {
- public:
-  WindowHandle hWnd() const override { return 0x5A; }
-};
-
 // A sample placed new on a 120 x 30 pixel surface of a form whose font is Tahoma; the
 // recording surface measures 6 pixels a character and 13 a line.
 class ColorSampleTest : public ::testing::Test {
@@ -52,7 +46,7 @@ class ColorSampleTest : public ::testing::Test {
   }
   testing::TestHost host;
   RecordingSurface surface{120, 30};
-  HandleSite site;
+  RecordingSite site;
   std::optional<ColorSample> sample;
 };
 
@@ -167,7 +161,7 @@ TEST_F(ColorSampleTest, SettersNotifyAndRedrawAndTheirValuesSurviveSaveAndLoad) 
 // The About box opens over the control's window; the site reaches the sample while it lives.
 TEST_F(ColorSampleTest, AboutBoxOverTheControlsWindowAndTheSiteWhileItLives) {
   sample->AboutBox();
-  EXPECT_EQ(host.Windows.AboutBoxOwners, std::vector<WindowHandle>{0x5A});
+  EXPECT_EQ(host.Windows.AboutBoxOwners, std::vector<WindowHandle>{site.hWnd()});
   EXPECT_EQ(site.Control(), &*sample);
   sample.reset();
   EXPECT_EQ(site.Control(), nullptr);

@@ -24,6 +24,12 @@ class RecordingMessageBox : public MessageBox {
     return 1;
   }
 
+  std::vector<std::string> Prompts() const {
+    std::vector<std::string> prompts;
+    for (const Message& m : Shown) prompts.push_back(m.Prompt);
+    return prompts;
+  }
+
   std::vector<Message> Shown;
   std::function<void()> WhileShown;
 };

@@ -7,7 +7,8 @@
 
 namespace lumo::testing {
 
-// A container that records change notifications and keeps the size it is given.
+// A container with a window of its own that records change notifications and keeps the
+// size it is given.
 class RecordingSite : public ControlSite {
  public:
   void PropertyChanged(const std::string& name) override { Changed.push_back(name); }
@@ -22,6 +23,7 @@ class RecordingSite : public ControlSite {
   }
   void SetEnabled(bool enabled) override { Enabled = enabled; }
   void SetAccessKeys(const std::string& keys) override { AccessKeys = keys; }
+  WindowHandle hWnd() const override { return 0x5A; }
 
   std::vector<std::string> Changed;
   StdFont Font;

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "colormodel/CheckedMath.h"
 #include "colormodel/DrawingSurface.h"
 #include "colormodel/SurfaceEvents.h"
 
@@ -26,14 +29,21 @@ struct SurfaceCall {
 // fixed (CharWidth per character, LineHeight per line) so layouts are predictable.
 class RecordingSurface : public DrawingSurface {
  public:
-  explicit RecordingSurface(std::int32_t widthPixels = 200, std::int32_t heightPixels = 200);
+  explicit RecordingSurface(std::int32_t widthPixels = 200, std::int32_t heightPixels = 200)
+      : width_(widthPixels), height_(heightPixels) {}
 
   WindowHandle hWnd() const override { return handle_; }
   std::int32_t ScaleWidth() const override { return width_; }
   std::int32_t ScaleHeight() const override { return height_; }
-  void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) override;
-  double TextWidth(const std::string& text) const override;
-  double TextHeight(const std::string& text) const override;
+  void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) override {
+    width_ = checked::Round(width / static_cast<double>(TwipsPerPixel));
+    height_ = checked::Round(height / static_cast<double>(TwipsPerPixel));
+    Record("Move", {left, top, width, height});
+  }
+  double TextWidth(const std::string& text) const override { return CharWidth * static_cast<double>(text.size()); }
+  double TextHeight(const std::string& text) const override {
+    return LineHeight * static_cast<double>(1 + std::count(text.begin(), text.end(), '\n'));
+  }
   void PaintPicture(const DrawingSurface& source, std::int32_t x, std::int32_t y) override {
     Record("PaintPicture", {static_cast<std::int32_t>(source.hWnd()), x, y});
   }
@@ -41,7 +51,11 @@ class RecordingSurface : public DrawingSurface {
   void Rectangle(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) override {
     Record("Rectangle", {left, top, right, bottom});
   }
-  void Polygon(const std::vector<Point>& points) override;
+  void Polygon(const std::vector<Point>& points) override {
+    std::vector<std::int32_t> args;
+    for (const Point& p : points) args.insert(args.end(), {p.X, p.Y});
+    Record("Polygon", std::move(args));
+  }
   void DrawEdge(const Rect& r, std::int32_t edgeKind, std::int32_t flags) override {
     Record("DrawEdge", {r.Left, r.Top, r.Right, r.Bottom, edgeKind, flags});
   }
@@ -56,7 +70,11 @@ class RecordingSurface : public DrawingSurface {
   double CharWidth = 6.0;
   double LineHeight = 13.0;
   void ClearCalls() { Calls.clear(); }
-  std::vector<SurfaceCall> CallsOf(const std::string& op) const;
+  std::vector<SurfaceCall> CallsOf(const std::string& op) const {
+    std::vector<SurfaceCall> found;
+    std::copy_if(Calls.begin(), Calls.end(), std::back_inserter(found), [&](const auto& c) { return c.Op == op; });
+    return found;
+  }
   std::int32_t CountOf(const std::string& op) const { return static_cast<std::int32_t>(CallsOf(op).size()); }
   // Input, delivered to the listener (when there is one) as the host would.
   void MouseDown(double x, double y, std::int16_t button = 1, std::int16_t shift = 0) {
@@ -92,9 +110,14 @@ class RecordingSurface : public DrawingSurface {
   void ToolTipChanged() override { ToolTipAssignments.push_back(ToolTipText()); }
 
  private:
-  SurfaceCall& Record(std::string op, std::vector<std::int32_t> args, std::string text = {});
+  void Record(std::string op, std::vector<std::int32_t> args, std::string text = {}) {
+    Calls.push_back({std::move(op), std::move(args), std::move(text), ForeColor(), FillColor(), BackColor(),
+                     FillStyle(), DrawWidth()});
+  }
 
-  WindowHandle handle_;
+  // Every surface gets a handle of its own, as windows do.
+  static inline WindowHandle nextHandle_ = 0x1000;
+  WindowHandle handle_ = nextHandle_ += 0x10;
   std::int32_t width_;
   std::int32_t height_;
 };

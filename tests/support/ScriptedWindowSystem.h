@@ -17,13 +17,13 @@ namespace lumo::testing {
 class ScriptedWindowSystem : public WindowSystem {
  public:
   std::unique_ptr<FormWindow> LoadForm(const std::string& name, FormEvents& events) override {
-    auto form = std::make_unique<TestForm>(name, events, nextHandle_ += 0x10);
+    auto form = std::make_unique<TestForm>(events, nextHandle_ += 0x10);
     if (const auto script = scripts_.find(name); script != scripts_.end()) form->ModalScript = script->second;
     lastForms_[name] = form.get();
     LoadedForms.push_back(name);
     return form;
   }
-  std::int32_t ScreenWidth() const override { return ScreenWidthTwips; }
+  std::int32_t ScreenWidth() const override { return 1024 * 15; }
   std::int32_t ScreenHeight() const override { return ScreenHeightTwips; }
   WindowHandle SetCapture(WindowHandle window) override {
     CaptureCalls.push_back(window);
@@ -59,7 +59,6 @@ class ScriptedWindowSystem : public WindowSystem {
     return found == lastForms_.end() ? nullptr : found->second;
   }
 
-  std::int32_t ScreenWidthTwips = 1024 * 15;
   std::int32_t ScreenHeightTwips = 768 * 15;
   WindowHandle Capture = 0;
   WindowHandle ActiveWindow = 0;

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "colormodel/ControlEvents.h"
 #include "colormodel/FormEvents.h"
 #include "colormodel/FormWindow.h"
 #include "colormodel/TextBox.h"
@@ -27,7 +28,7 @@ class TestTextBox : public TextBox {
 // user's actions (clicks, leaving a text box, closing from the title bar) as calls.
 class TestForm : public FormWindow {
  public:
-  TestForm(std::string name, FormEvents& events, WindowHandle handle);
+  TestForm(FormEvents& events, WindowHandle handle) : events_(events), handle_(handle) {}
 
   WindowHandle hWnd() const override { return handle_; }
   std::string Caption() const override { return caption_; }
@@ -38,28 +39,47 @@ class TestForm : public FormWindow {
   std::int32_t Height() const override { return height_; }
   std::int32_t ScaleWidth() const override { return width_ - 2 * BorderTwips; }
   std::int32_t ScaleHeight() const override { return height_ - 2 * BorderTwips; }
-  void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) override;
-  void Show(bool modal) override;
+  void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) override {
+    left_ = left;
+    top_ = top;
+    width_ = width;
+    height_ = height;
+  }
+  // Becoming visible shows the hosted controls and activates the window, as a window
+  // system does when it maps a window; the modal script runs after that.
+  void Show(bool modal) override {
+    if (!visible_ && loaded_) {
+      visible_ = true;
+      for (const auto& [name, site] : sites_) {
+        if (ControlEvents* control = site->Control()) control->UserControl_Show();
+      }
+      if (loaded_) events_.Form_Activate();
+    }
+    if (!modal) return;
+    if (ModalScript) ModalScript(*this);
+    ModalLeftOpen = loaded_;
+  }
   void Unload() override { UnloadWithMode(unloadmode::Code); }
   bool IsLoaded() const override { return loaded_; }
   DrawingSurface& Surface(const std::string& name) override { return RecordingSurfaceNamed(name); }
-  ControlSite& Site(const std::string& name) override { return SiteNamed(name); }
+  ControlSite& Site(const std::string& name) override { return Child(sites_, name); }
   TextBox& TextField(const std::string& name) override { return TextBoxNamed(name); }
-  Label& LabelNamed(const std::string& name) override { return TestLabelNamed(name); }
+  Label& LabelNamed(const std::string& name) override { return Child(labels_, name); }
 
   // --- for tests ---
-  const std::string& Name() const { return name_; }
   RecordingSurface& RecordingSurfaceNamed(const std::string& name) { return Child(surfaces_, name); }
-  RecordingSite& SiteNamed(const std::string& name) { return Child(sites_, name); }
   TestTextBox& TextBoxNamed(const std::string& name) { return Child(textBoxes_, name); }
-  TestLabel& TestLabelNamed(const std::string& name) { return Child(labels_, name); }
-  void ClickControl(const std::string& control, std::int32_t index = 0);
-  void LeaveControl(const std::string& control);
+  void ClickControl(const std::string& control, std::int32_t index = 0) { events_.ControlClick(control, index); }
+  void LeaveControl(const std::string& control) { events_.ControlLostFocus(control); }
   void CloseFromTitleBar() { UnloadWithMode(unloadmode::ControlMenu); }
   // Another window took the activation.
-  void Deactivate();
+  void Deactivate() {
+    if (loaded_) events_.Form_Deactivate();
+  }
   // A key pressed while the window is active (the form sees it first).
-  void PressKey(std::int16_t keyCode, std::int16_t shift = 0);
+  void PressKey(std::int16_t keyCode, std::int16_t shift = 0) {
+    if (loaded_) events_.Form_KeyDown(keyCode, shift);
+  }
   // The script a modal show runs in place of the user; set by the window system.
   std::function<void(TestForm&)> ModalScript;
   // A modal show whose script ended without unloading the form; the show returns
@@ -75,9 +95,16 @@ class TestForm : public FormWindow {
     if (!slot) slot = std::make_unique<T>();
     return *slot;
   }
-  void UnloadWithMode(std::int32_t mode);
+  void UnloadWithMode(std::int32_t mode) {
+    if (!loaded_) return;
+    bool cancel = false;
+    events_.Form_QueryUnload(cancel, mode);
+    if (cancel) return;
+    loaded_ = false;
+    visible_ = false;
+    events_.Form_Unload();
+  }
 
-  std::string name_;
   FormEvents& events_;
   WindowHandle handle_;
   std::string caption_;

@@ -1,21 +1,17 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "colormodel/Label.h"
 
 namespace lumo::testing {
 
-// A label that remembers every caption it was given.
+// A label that keeps its caption and place.
 class TestLabel : public Label {
  public:
   std::string Caption() const override { return caption_; }
-  void SetCaption(const std::string& caption) override {
-    caption_ = caption;
-    Captions.push_back(caption);
-  }
-  void SetBackColor(OLE_COLOR color) override { BackColor = color; }
+  void SetCaption(const std::string& caption) override { caption_ = caption; }
+  void SetBackColor(OLE_COLOR /*color*/) override {}
   std::int32_t Left() const override { return left_; }
   std::int32_t Top() const override { return top_; }
   std::int32_t Width() const override { return WidthTwips; }
@@ -25,8 +21,6 @@ class TestLabel : public Label {
     top_ = top;
   }
 
-  std::vector<std::string> Captions;
-  OLE_COLOR BackColor = 0;
   std::int32_t WidthTwips = 3585;
   std::int32_t HeightTwips = 255;
 
