@@ -80,6 +80,15 @@ std::int16_t ButtonMask(Qt::MouseButtons buttons) {
   return mask;
 }
 
+// A second image over the same pixels, for one QPainter. The raster engine a painter
+// starts stays with the image it painted, about 2 kB with its buffers; on this view it
+// goes when the view does, instead of living as long as the surface.
+QImage PainterView(QImage& image) {
+  QImage view(image.bits(), image.width(), image.height(), image.bytesPerLine(), image.format());
+  view.setDevicePixelRatio(image.devicePixelRatio());
+  return view;
+}
+
 }  // namespace
 
 SurfaceWidget::SurfaceWidget(QWidget* parent) : QWidget(parent), qfont_(qtFont(Font())) {
@@ -194,7 +203,8 @@ void SurfaceWidget::rebuildImage() const {
   next.fill(rgb(BackColor()));
   // The drawing so far stays where it was, at the top left; a change of ratio scales it.
   if (!next.isNull() && !image_.isNull()) {
-    QPainter painter(&next);
+    QImage view = PainterView(next);
+    QPainter painter(&view);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(QPointF(0, 0), image_);
   }
@@ -237,7 +247,8 @@ void SurfaceWidget::PaintPicture(const lumo::DrawingSurface& source, std::int32_
   // A copy, so that a surface can paint itself onto itself.
   const QImage picture = surface->image();
   draw([this, picture, x, y] {
-    QPainter painter(&image_);
+    QImage view = PainterView(image_);
+    QPainter painter(&view);
     painter.drawImage(QPointF(x, y), picture);
   });
   damage(QRect(QPoint(x, y), picture.deviceIndependentSize().toSize() + QSize(1, 1)));
@@ -345,7 +356,8 @@ void SurfaceWidget::DrawTextA(const std::string& text, const lumo::Rect& rect, s
   if (backing().isNull() || (clip && (box.width() <= 0 || box.height() <= 0))) return;
   draw([this, box, clip, font = qfont_, pen = resolve(ForeColor()), flags = TextFlags(format),
         line = QString::fromStdString(text)] {
-    QPainter painter(&image_);
+    QImage view = PainterView(image_);
+    QPainter painter(&view);
     if (clip) painter.setClipRect(box);
     painter.setFont(font);
     painter.setPen(pen);
@@ -357,7 +369,8 @@ void SurfaceWidget::DrawTextA(const std::string& text, const lumo::Rect& rect, s
 void SurfaceWidget::DrawPrintedText(double x, double y, const std::string& text) {
   if (backing().isNull()) return;
   draw([this, x, y, font = qfont_, pen = resolve(ForeColor()), lines = Lines(text)] {
-    QPainter painter(&image_);
+    QImage view = PainterView(image_);
+    QPainter painter(&view);
     painter.setFont(font);
     painter.setPen(pen);
     const QFontMetricsF metrics(font);
