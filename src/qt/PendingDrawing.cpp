@@ -12,6 +12,8 @@ void PendingDrawing::run() {
   for (const auto& step : steps) step();
 }
 
-void PendingDrawing::drop() { steps_ = {}; }
+// A new empty list, not `steps_ = {}`: assigning an empty brace list keeps the storage,
+// and a shown surface, which clears before every drawing, would hold it for good.
+void PendingDrawing::drop() { steps_ = std::vector<std::function<void()>>(); }
 
 }  // namespace LumoColorCombo::host
