@@ -243,7 +243,7 @@ void ColorBox::Refresh() {
     if (m_AllowAutomatic) PaintAutomaticButton(x, y, surfaceWidth);
     PaintRowGaps(x, y);
     y = checked::Add(y, Layout().MarkerHeight());
-    for (const CellPtr& cell : Colors()) DrawButton(cell, false);
+    for (std::int32_t index = 1; index <= Colors().Count(); ++index) DrawPlainButton(index);
     const std::int32_t rows = Layout().Rows();
     y = checked::Add(y, checked::Add(checked::Add(checked::Mul(rows, 12), checked::Mul(rows, 6)), 2));
     if (m_AllowMoreColors) PaintMoreColorsButton(GridLeft(), y);
@@ -307,18 +307,22 @@ void ColorBox::DrawButton(CellPtr cell, bool bHot) {
     if (!cell) throw RuntimeError(err::ObjectNotSet);
     const std::int32_t index = cell->Index();
     const Point origin = CellOrigin(index);
-    const Rect area = ColorBoxPainter::FrameArea(origin.X, origin.Y);
-    painter_.EraseFrame(area);
-    if (bHot) {
-      painter_.HotFrame(area);
-      MakeHot(cell, index);
-    } else if (cell->Color() == m_Color) {
-      // Every cell of the selected colour is marked, whether or not IsAutomatic is set.
-      painter_.SelectedFrame(area);
-    }
-    painter_.Square(origin.X, origin.Y, cell->Color());
-    cell->SetBounds(origin.X, origin.Y, origin.X + ColorBoxLayout::SquareSize,
-                    origin.Y + ColorBoxLayout::SquareSize);
+    // Every cell of the selected colour is marked, whether or not IsAutomatic is set.
+    painter_.CellFrame(origin.X, origin.Y, bHot, cell->Color() == m_Color);
+    if (bHot) MakeHot(cell, index);
+    const Rect square = painter_.Square(origin.X, origin.Y, cell->Color());
+    cell->SetBounds(square.Left, square.Top, square.Right, square.Bottom);
+  });
+}
+
+// Refresh paints every cell plain by its position, which needs no cell object.
+void ColorBox::DrawPlainButton(std::int32_t index) {
+  Trap("DrawButton", [&] {
+    const OLE_COLOR color = Colors().Face(index).Color;
+    const Point origin = CellOrigin(index);
+    painter_.CellFrame(origin.X, origin.Y, false, color == m_Color);
+    const Rect square = painter_.Square(origin.X, origin.Y, color);
+    Colors().SetBounds(index, square.Left, square.Top, square.Right, square.Bottom);
   });
 }
 
@@ -404,8 +408,11 @@ void ColorBox::SetDefaultToolTips() {
   // both its tooltip and what ColorName reports once the cell is chosen. A palette's
   // cells come so named; this names any cell whose name was cleared since.
   Trap("SetDefaultToolTips", [&] {
-    for (const CellPtr& cell : Colors()) {
-      if (cell->Name().empty()) cell->SetName(ColorBoxPalettes::DefaultName(*cell));
+    CColorboxCol& cells = Colors();
+    for (std::int32_t index = 1; index <= cells.Count(); ++index) {
+      if (!cells.Face(index).Name.empty()) continue;
+      const CellPtr cell = cells.Item(index);
+      cell->SetName(ColorBoxPalettes::DefaultName(*cell));
     }
   });
 }

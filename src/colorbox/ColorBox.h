@@ -142,6 +142,7 @@ class ColorBox : public SurfaceEvents, public ControlEvents {
   void PaintMoreColorsButton(std::int32_t x, std::int32_t& y);
 
   void DrawButton(CellPtr cell, bool bHot);
+  void DrawPlainButton(std::int32_t index);
   void MakeHot(const CellPtr& cell, std::int32_t index);
   Point CellOrigin(std::int32_t index) const;
   std::int32_t GridLeft() const;

@@ -21,26 +21,28 @@ void ColorBoxPainter::EtchedLine(std::int32_t x1, std::int32_t x2, std::int32_t 
   surface_.LineTo(x2, y + 1);
 }
 
-void ColorBoxPainter::EraseFrame(const Rect& area) {
+void ColorBoxPainter::CellFrame(std::int32_t left, std::int32_t top, bool hot, bool selected) {
+  const Rect area = FrameArea(left, top);
   surface_.SetFillColor(surface_.BackColor());
   surface_.SetForeColor(surface_.BackColor());
   surface_.SetFillStyle(fill::Solid);
   surface_.Rectangle(area.Left, area.Top, area.Right, area.Bottom);
   surface_.SetFillStyle(fill::Transparent);
+  if (hot) {
+    surface_.DrawEdge(area, edge::RaisedInner, edge::AllSides);
+  } else if (selected) {
+    surface_.DrawEdge(area, edge::SunkenOuter, edge::AllSides);
+  }
 }
 
-void ColorBoxPainter::HotFrame(const Rect& area) { surface_.DrawEdge(area, edge::RaisedInner, edge::AllSides); }
-
-void ColorBoxPainter::SelectedFrame(const Rect& area) {
-  surface_.DrawEdge(area, edge::SunkenOuter, edge::AllSides);
-}
-
-void ColorBoxPainter::Square(std::int32_t left, std::int32_t top, OLE_COLOR color) {
+Rect ColorBoxPainter::Square(std::int32_t left, std::int32_t top, OLE_COLOR color) {
+  const Rect square{left, top, left + ColorBoxLayout::SquareSize, top + ColorBoxLayout::SquareSize};
   surface_.SetFillColor(color);
   surface_.SetFillStyle(fill::Solid);
   surface_.SetForeColor(sys::ButtonShadow);
-  surface_.Rectangle(left, top, left + ColorBoxLayout::SquareSize, top + ColorBoxLayout::SquareSize);
+  surface_.Rectangle(square.Left, square.Top, square.Right, square.Bottom);
   surface_.SetFillStyle(fill::Transparent);
+  return square;
 }
 
 void ColorBoxPainter::AutoButton(const Rect& button, bool hot, const std::string& caption) {

@@ -27,13 +27,12 @@ class ColorBoxPainter {
 
   // A shadow line at y and a highlight line under it, from x1 to x2.
   void EtchedLine(std::int32_t x1, std::int32_t x2, std::int32_t y);
-  // Wipes a cell's frame area with the background colour.
-  void EraseFrame(const Rect& area);
-  // The raised frame of the hot cell, or the sunken frame of a selected one.
-  void HotFrame(const Rect& area);
-  void SelectedFrame(const Rect& area);
-  // The colour square itself, outlined in button shadow.
-  void Square(std::int32_t left, std::int32_t top, OLE_COLOR color);
+  // Wipes the frame area of the cell whose square is at (left, top) with the background
+  // colour, then draws the raised frame of the hot cell or else, when `selected`, the
+  // sunken frame of a cell of the chosen colour.
+  void CellFrame(std::int32_t left, std::int32_t top, bool hot, bool selected);
+  // The colour square itself, outlined in button shadow; answers its inclusive bounds.
+  Rect Square(std::int32_t left, std::int32_t top, OLE_COLOR color);
   // The Automatic button: filled box and centred caption, highlighted when hot.
   void AutoButton(const Rect& button, bool hot, const std::string& caption);
   // Only the frame of the More Colors button.

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "colormodel/CColorboxCol.h"
@@ -95,10 +96,10 @@ const char* CubeName(std::int32_t cell) {
   }
 }
 
-using Faces = std::vector<FacePtr>;
+using Faces = std::vector<CellFace>;
 
 void Append(Faces& faces, const char* name, OLE_COLOR color) {
-  faces.push_back(std::make_shared<const CellFace>(CellFace{name, color}));
+  faces.push_back(CellFace{name, color});
 }
 
 void AppendAll(Faces& faces, std::span<const NamedColor> colors) {
@@ -153,20 +154,20 @@ Faces Ramp(std::int32_t count, std::int32_t componentShift) {
 }
 
 // A grid shows every unnamed cell under its colour's name, so the shared faces carry it.
-Faces Named(Faces faces, const CommonGlobals& errors) {
-  for (FacePtr& face : faces) {
-    if (!face->Name.empty()) continue;
-    CellFace named = *face;
-    named.Name = ColorBoxPalettes::DefaultName(CColorboxEl(errors, face));
-    face = std::make_shared<const CellFace>(std::move(named));
+FaceTable Named(Faces faces, const CommonGlobals& errors) {
+  for (CellFace& face : faces) {
+    if (!face.Name.empty()) continue;
+    CColorboxEl unnamed(errors);
+    unnamed.SetColor(face.Color);
+    face.Name = ColorBoxPalettes::DefaultName(unnamed);
   }
-  return faces;
+  return std::make_shared<const Faces>(std::move(faces));
 }
 
 // The faces of one palette, built on first use and shared by every grid since.
 template <auto Build, auto... Args>
-const Faces& Shared(const CommonGlobals& errors) {
-  static const Faces faces = Named(Build(Args...), errors);
+const FaceTable& Shared(const CommonGlobals& errors) {
+  static const FaceTable faces = Named(Build(Args...), errors);
   return faces;
 }
 
@@ -177,7 +178,7 @@ struct Palette {
   const char* procedure;
   std::int32_t columns;
   const char* marker;  // null: the marker stays as it was
-  const Faces& (*faces)(const CommonGlobals&);
+  const FaceTable& (*faces)(const CommonGlobals&);
 };
 
 constexpr Palette kPalettes[] = {
@@ -208,7 +209,7 @@ bool ColorBoxPalettes::Load(std::int32_t style, CColorboxCol& cells) {
   for (const Palette& palette : kPalettes) {
     if (palette.style != style) continue;
     errors_.Trap(kModule, palette.procedure, [&] {
-      const Faces& faces = palette.faces(errors_);
+      const FaceTable& faces = palette.faces(errors_);
       cells.Clear();
       cells.AddAll(faces);
       if (palette.marker != nullptr) marker_ = palette.marker;

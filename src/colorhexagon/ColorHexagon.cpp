@@ -107,7 +107,10 @@ void ColorHexagon::Refresh() {
   Trap("Refresh", [&] {
     picScreen_.Cls();
     picScreen_.SetBackColor(backColor_);
-    for (const CellPtr& cell : LiveCells()) DrawShape(cell, false);
+    // Plain cells are painted by position, which needs no cell object.
+    for (std::int32_t index = 1; index <= LiveCells().Count(); ++index) {
+      Trap("DrawShape", [&] { PaintCellAt(index); });
+    }
     DrawShape(selected_, true);
     // Re-applying the properties re-places the mark for the current colour (and so
     // may raise ColorChanged); IsAutomatic is unchanged and does nothing.
@@ -319,14 +322,27 @@ void ColorHexagon::DrawShape(const CellPtr& cell, bool selected) {
   });
 }
 
-// The hexagon filled and outlined in its own colour; stores its hit-test box.
+// The hexagon filled and outlined in its own colour; stores its hit-test box first.
 void ColorHexagon::PaintCell(CColorboxEl& cell) {
   const Rect box = HexagonGeometry::Bounds(cell.X(), cell.Y(), cell.IsLarge());
   cell.SetBounds(box.Left, box.Top, box.Right, box.Bottom);
-  picScreen_.SetForeColor(cell.Color());
-  picScreen_.SetFillColor(cell.Color());
+  PaintHexagon(cell.X(), cell.Y(), cell.IsLarge(), cell.Color());
+}
+
+void ColorHexagon::PaintCellAt(std::int32_t index) {
+  CColorboxCol& cells = LiveCells();
+  const CellFace& face = cells.Face(index);
+  const Rect box = HexagonGeometry::Bounds(face.X, face.Y, face.IsLarge);
+  cells.SetBounds(index, box.Left, box.Top, box.Right, box.Bottom);
+  PaintHexagon(face.X, face.Y, face.IsLarge, face.Color);
+}
+
+// Takes values, not the cell: the drawing calls reach the host, which may change the cells.
+void ColorHexagon::PaintHexagon(std::int32_t x, std::int32_t y, bool large, OLE_COLOR color) {
+  picScreen_.SetForeColor(color);
+  picScreen_.SetFillColor(color);
   picScreen_.SetFillStyle(fill::Solid);
-  picScreen_.Polygon(HexagonGeometry::Outline(cell.X(), cell.Y(), cell.IsLarge()));
+  picScreen_.Polygon(HexagonGeometry::Outline(x, y, large));
   picScreen_.SetFillStyle(fill::Transparent);
 }
 

@@ -104,6 +104,8 @@ class ColorHexagon : public SurfaceEvents, public ControlEvents {
   void LoadHexColors();
   void DrawShape(const CellPtr& cell, bool selected);
   void PaintCell(CColorboxEl& cell);
+  void PaintCellAt(std::int32_t index);
+  void PaintHexagon(std::int32_t x, std::int32_t y, bool large, OLE_COLOR color);
   void PaintSelectionMark(const CColorboxEl& cell);
   void CurrentColor(const CellPtr& cell);
   void RaiseColorChanged(const CColorboxEl& cell, const std::string& colorHex);

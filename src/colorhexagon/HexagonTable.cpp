@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <memory>
 #include <initializer_list>
+#include <utility>
+#include <vector>
 
 namespace lumo {
 namespace {
@@ -80,14 +82,12 @@ const std::array<HexagonCellEntry, HexagonTable::CellCount>& HexagonTable::Cells
   return cells;
 }
 
-const std::vector<FacePtr>& HexagonTable::Faces() {
-  static const std::vector<FacePtr> faces = [] {
-    std::vector<FacePtr> built;
+const FaceTable& HexagonTable::Faces() {
+  static const FaceTable faces = [] {
+    std::vector<CellFace> built;
     built.reserve(CellCount);
-    for (const HexagonCellEntry& e : Cells()) {
-      built.push_back(std::make_shared<const CellFace>(CellFace{e.Name, e.Color, e.X, e.Y, e.IsLarge}));
-    }
-    return built;
+    for (const HexagonCellEntry& e : Cells()) built.push_back(CellFace{e.Name, e.Color, e.X, e.Y, e.IsLarge});
+    return std::make_shared<const std::vector<CellFace>>(std::move(built));
   }();
   return faces;
 }

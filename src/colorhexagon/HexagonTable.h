@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <vector>
 
 #include "colormodel/CellFace.h"
 #include "colormodel/Types.h"
@@ -32,7 +31,7 @@ class HexagonTable {
 
   static const std::array<HexagonCellEntry, CellCount>& Cells();
   // The same entries as cell faces, built once and shared by every honeycomb.
-  static const std::vector<FacePtr>& Faces();
+  static const FaceTable& Faces();
 };
 
 }  // namespace lumo

@@ -1,5 +1,9 @@
 #include "colormodel/CColorboxCol.h"
 
+#include <algorithm>
+#include <functional>
+#include <limits>
+
 #include "colormodel/CheckedMath.h"
 #include "colormodel/CommonGlobals.h"
 
@@ -9,11 +13,22 @@ namespace {
 constexpr const char* kModule = "CColorboxCol";
 constexpr std::int32_t kFarthest = 1 << 30;
 
+bool FitsSlot(std::int32_t value) {
+  return value >= std::numeric_limits<std::int16_t>::min() && value <= std::numeric_limits<std::int16_t>::max();
+}
+
+bool Contains(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom, std::int32_t x,
+              std::int32_t y) {
+  return left <= x && x <= right && top <= y && y <= bottom;
+}
+
+bool BeforePosition(const CellPtr& cell, std::int32_t position) { return cell->Position() < position; }
+
 }  // namespace
 
 CColorboxCol::~CColorboxCol() {
   // A cell that outlives its list must not point back at it.
-  for (const auto& cell : cells_) cell->SetParent(nullptr);
+  for (const auto& cell : made_) cell->SetParent(nullptr);
 }
 
 CellPtr CColorboxCol::Add(const std::string& sName, OLE_COLOR lColor, std::int32_t lX,
@@ -32,48 +47,77 @@ CellPtr CColorboxCol::Add(const std::string& sName, OLE_COLOR lColor, std::int32
   return result;
 }
 
-void CColorboxCol::Append(CellPtr cell) {
+void CColorboxCol::Append(const CellPtr& cell) {
   cell->SetParent(this);
-  cells_.push_back(cell);
+  slots_.emplace_back();
+  made_.push_back(cell);
   newIndex_ = Count();
   cell->SetPosition(newIndex_);
 }
 
-void CColorboxCol::AddAll(const std::vector<FacePtr>& faces) {
+void CColorboxCol::AddAll(const FaceTable& faces) {
   errors_.Trap(kModule, "Add", [&] {
-    auto block = std::make_shared<std::vector<CColorboxEl>>();
-    block->reserve(faces.size());
-    for (const FacePtr& face : faces) block->emplace_back(errors_, face);
-    cells_.reserve(cells_.size() + faces.size());
-    // Each cell shares the block's ownership: a held cell keeps its block alive.
-    for (CColorboxEl& cell : *block) Append(CellPtr(block, &cell));
+    if (!faces || faces->empty()) return;
+    if (std::find(tables_.begin(), tables_.end(), faces) == tables_.end()) tables_.push_back(faces);
+    // Exactly as many slots as cells: a control's list is loaded once and then kept.
+    slots_.reserve(slots_.size() + faces->size());
+    for (const CellFace& face : *faces) slots_.push_back(Slot{&face});
+    newIndex_ = Count();
   });
 }
 
-CellPtr CColorboxCol::At(std::int32_t index) const {
-  if (index < 1 || index > static_cast<std::int32_t>(cells_.size())) {
-    throw RuntimeError(err::IndexOutOfRange);
+CColorboxCol::Slot& CColorboxCol::SlotAt(std::int32_t index) const {
+  if (index < 1 || index > Count()) throw RuntimeError(err::IndexOutOfRange);
+  return slots_[static_cast<std::size_t>(index - 1)];
+}
+
+std::vector<CellPtr>::iterator CColorboxCol::MadeFrom(std::int32_t position) const {
+  return std::lower_bound(made_.begin(), made_.end(), position, BeforePosition);
+}
+
+FacePtr CColorboxCol::SharedFace(const CellFace* face) const {
+  // The object shares the ownership of the table its face belongs to.
+  for (const FaceTable& table : tables_) {
+    const std::less<const CellFace*> before;
+    if (!before(face, table->data()) && before(face, table->data() + table->size())) return {table, face};
   }
-  return cells_[static_cast<std::size_t>(index - 1)];
+  // Every slot's table is kept while the slot is listed; a copy is the safe answer all the same.
+  return std::make_shared<const CellFace>(*face);
+}
+
+CellPtr CColorboxCol::Made(std::int32_t position) const {
+  Slot& slot = slots_[static_cast<std::size_t>(position - 1)];
+  const auto at = MadeFrom(position);
+  if (slot.face == nullptr) return *at;
+  auto cell = std::make_shared<CColorboxEl>(errors_, SharedFace(slot.face));
+  cell->SetBounds(slot.left, slot.top, slot.right, slot.bottom);
+  // The list's own cells name it as their parent, whether or not it is asked as const.
+  cell->SetParent(const_cast<CColorboxCol*>(this));
+  cell->SetPosition(position);
+  made_.insert(at, cell);
+  slot = Slot{};
+  return cell;
 }
 
 CellPtr CColorboxCol::Item(std::int32_t index) const {
   CellPtr result;
-  errors_.Trap(kModule, "Item", [&] { result = At(index); });
+  errors_.Trap(kModule, "Item", [&] {
+    SlotAt(index);  // throws index out of range
+    result = Made(index);
+  });
   return result;
 }
 
-std::int32_t CColorboxCol::Count() const { return static_cast<std::int32_t>(cells_.size()); }
+std::int32_t CColorboxCol::Count() const { return static_cast<std::int32_t>(slots_.size()); }
 
 void CColorboxCol::Remove(std::int32_t index) {
   errors_.Trap(kModule, "Remove", [&] {
     const CellPtr cell = Item(index);  // reports an invalid position itself
     if (!cell) return;
     cell->SetParent(nullptr);
-    cells_.erase(cells_.begin() + (index - 1));
-    for (auto i = static_cast<std::size_t>(index - 1); i < cells_.size(); ++i) {
-      cells_[i]->SetPosition(static_cast<std::int32_t>(i) + 1);
-    }
+    const auto at = made_.erase(MadeFrom(index));
+    slots_.erase(slots_.begin() + (index - 1));
+    for (auto later = at; later != made_.end(); ++later) (*later)->SetPosition((*later)->Position() - 1);
     newIndex_ = 0;
   });
 }
@@ -82,10 +126,49 @@ void CColorboxCol::Clear() {
   // Removing every cell at once, not one by one from the front: the same outcome
   // as n calls of Remove(1) without moving the rest of the list n times.
   errors_.Trap(kModule, "Clear", [&] {
-    for (const auto& cell : cells_) cell->SetParent(nullptr);
-    if (!cells_.empty()) newIndex_ = 0;
-    cells_.clear();
+    for (const auto& cell : made_) cell->SetParent(nullptr);
+    if (!slots_.empty()) newIndex_ = 0;
+    slots_.clear();
+    made_.clear();
+    tables_.clear();
   });
+}
+
+const CellFace& CColorboxCol::Face(std::int32_t index) const {
+  const Slot& slot = SlotAt(index);
+  return slot.face != nullptr ? *slot.face : *(*MadeFrom(index))->Face();
+}
+
+void CColorboxCol::SetBounds(std::int32_t index, std::int32_t left, std::int32_t top, std::int32_t right,
+                             std::int32_t bottom) {
+  Slot& slot = SlotAt(index);
+  if (slot.face != nullptr && FitsSlot(left) && FitsSlot(top) && FitsSlot(right) && FitsSlot(bottom)) {
+    slot.left = static_cast<std::int16_t>(left);
+    slot.top = static_cast<std::int16_t>(top);
+    slot.right = static_cast<std::int16_t>(right);
+    slot.bottom = static_cast<std::int16_t>(bottom);
+    return;
+  }
+  Made(index)->SetBounds(left, top, right, bottom);
+}
+
+template <class Match>
+std::int32_t CColorboxCol::FirstWhere(Match&& match) const {
+  // The made objects come in position order, one per slot without a face, so one
+  // cursor through them serves the whole walk.
+  auto made = made_.cbegin();
+  for (std::size_t i = 0; i < slots_.size(); ++i) {
+    const Slot& slot = slots_[i];
+    bool found = false;
+    if (slot.face != nullptr) {
+      found = match(*slot.face, slot.left, slot.top, slot.right, slot.bottom);
+    } else {
+      const CColorboxEl& cell = **made++;
+      found = match(*cell.Face(), cell.BoundLeft(), cell.BoundTop(), cell.BoundRight(), cell.BoundBottom());
+    }
+    if (found) return static_cast<std::int32_t>(i + 1);
+  }
+  return 0;
 }
 
 CellPtr CColorboxCol::FindClosest(OLE_COLOR lColor) const {
@@ -94,36 +177,41 @@ CellPtr CColorboxCol::FindClosest(OLE_COLOR lColor) const {
     std::int32_t best = kFarthest;
     std::int32_t bestPosition = 0;
     std::int32_t position = 0;
-    for (const auto& cell : cells_) {
+    FirstWhere([&](const CellFace& face, auto...) {
       ++position;
-      const std::int32_t distance = checked::Abs(checked::Sub(cell->Color(), lColor));
+      const std::int32_t distance = checked::Abs(checked::Sub(face.Color, lColor));
       if (distance < best) {
         best = distance;
         bestPosition = position;
       }
-    }
+      return false;
+    });
     if (bestPosition > 0) result = Item(bestPosition);
   });
   return result;
 }
 
 CellPtr CColorboxCol::GetObject(std::int32_t lX, std::int32_t lY) const {
-  for (const auto& cell : cells_) {
-    if (cell->BoundLeft() <= lX && lX <= cell->BoundRight() && cell->BoundTop() <= lY &&
-        lY <= cell->BoundBottom()) {
-      return cell;
-    }
-  }
-  return nullptr;
+  const std::int32_t position = FirstWhere([&](const CellFace&, std::int32_t left, std::int32_t top,
+                                               std::int32_t right, std::int32_t bottom) {
+    return Contains(left, top, right, bottom, lX, lY);
+  });
+  return position > 0 ? Made(position) : nullptr;
 }
 
 CellPtr CColorboxCol::GetObjectByColor(OLE_COLOR lColor) const {
-  for (const auto& cell : cells_) {
-    if (cell->Color() == lColor) return cell;
-  }
-  return nullptr;
+  const std::int32_t position = FirstWhere([&](const CellFace& face, auto...) { return face.Color == lColor; });
+  return position > 0 ? Made(position) : nullptr;
 }
 
-bool CColorboxCol::ColorExists(OLE_COLOR lColor) const { return GetObjectByColor(lColor) != nullptr; }
+bool CColorboxCol::ColorExists(OLE_COLOR lColor) const {
+  // Asked by colour only: no object is needed to answer.
+  return FirstWhere([&](const CellFace& face, auto...) { return face.Color == lColor; }) > 0;
+}
+
+std::int32_t CColorboxCol::PositionOf(const CColorboxEl& cell) const {
+  const auto at = MadeFrom(cell.Position());
+  return at != made_.end() && at->get() == &cell ? cell.Position() : 0;
+}
 
 }  // namespace lumo

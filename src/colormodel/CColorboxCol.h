@@ -1,11 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "colormodel/CColorboxEl.h"
+#include "colormodel/CellFace.h"
 #include "colormodel/Types.h"
 
 namespace lumo {
@@ -17,8 +20,43 @@ using CellPtr = std::shared_ptr<CColorboxEl>;
 // The ordered list of colour cells of a control, 1-based in insertion order, with the
 // hit test and the colour searches both controls use. The list owns its cells; a
 // caller that keeps a cell (a hot or selected cell) keeps it alive after removal.
+//
+// A cell added from a shared table costs the list one slot (its face and its drawn
+// bounds) until someone asks for it as an object (Item, the searches, iteration);
+// from then on the list keeps that object, so every later request answers the same
+// cell, and the object holds the cell's state. The controls paint through Face and
+// SetBounds by position, so a shown control holds objects only for the cells it
+// handed out (its selected or hot cell).
 class CColorboxCol {
  public:
+  // In-order iteration; each step answers the cell's object, making it if needed.
+  class Iterator {
+   public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = CellPtr;
+    using difference_type = std::ptrdiff_t;
+    using pointer = void;
+    using reference = CellPtr;
+
+    Iterator() = default;
+    Iterator(const CColorboxCol* list, std::int32_t position) : list_(list), position_(position) {}
+    CellPtr operator*() const { return list_->Made(position_); }
+    Iterator& operator++() {
+      ++position_;
+      return *this;
+    }
+    Iterator operator++(int) {
+      Iterator before = *this;
+      ++position_;
+      return before;
+    }
+    friend bool operator==(const Iterator&, const Iterator&) = default;
+
+   private:
+    const CColorboxCol* list_ = nullptr;
+    std::int32_t position_ = 1;
+  };
+
   explicit CColorboxCol(const CommonGlobals& errors) : errors_(errors) {}
   CColorboxCol(const CColorboxCol&) = delete;
   CColorboxCol& operator=(const CColorboxCol&) = delete;
@@ -26,9 +64,9 @@ class CColorboxCol {
 
   CellPtr Add(const std::string& sName, OLE_COLOR lColor, std::int32_t lX, std::int32_t lY,
               bool bIsLarge = false);
-  // Adds one cell per face of a shared table, as that many Adds would. The cells are
-  // made in one block, which lives while any of them is held.
-  void AddAll(const std::vector<FacePtr>& faces);
+  // Adds one cell per face of a shared table, as that many Adds would. The list keeps
+  // the table alive while it lists cells of it; no cell object is made here.
+  void AddAll(const FaceTable& faces);
   // The cell at 1-based `index`; out of range reports "index out of range" and answers null.
   CellPtr Item(std::int32_t index) const;
   std::int32_t Count() const;
@@ -39,6 +77,13 @@ class CColorboxCol {
   std::int32_t Shape() const { return shape_; }
   void SetShape(std::int32_t shape) { shape_ = shape; }
 
+  // What the cell at 1-based `index` shows, and its drawn bounds, without making its
+  // object: how a control paints its cells. An index out of range throws "index out of
+  // range" to the calling procedure's trap.
+  const CellFace& Face(std::int32_t index) const;
+  void SetBounds(std::int32_t index, std::int32_t left, std::int32_t top, std::int32_t right,
+                 std::int32_t bottom);
+
   // Nearest by the absolute difference of the packed colour numbers (not by
   // components); strict less-than, so the earliest of equals wins. An overflowing
   // difference reports and answers null.
@@ -48,16 +93,41 @@ class CColorboxCol {
   CellPtr GetObjectByColor(OLE_COLOR lColor) const;
   bool ColorExists(OLE_COLOR lColor) const;
 
-  // In-order iteration.
-  std::vector<CellPtr>::const_iterator begin() const { return cells_.begin(); }
-  std::vector<CellPtr>::const_iterator end() const { return cells_.end(); }
+  // The 1-based position of `cell` in this list, 0 when the list does not hold it.
+  std::int32_t PositionOf(const CColorboxEl& cell) const;
+
+  Iterator begin() const { return {this, 1}; }
+  Iterator end() const { return {this, Count() + 1}; }
 
  private:
-  CellPtr At(std::int32_t index) const;  // throws index out of range
-  void Append(CellPtr cell);
+  // A cell without an object: its shared face and its drawn bounds. Bounds outside the
+  // 16-bit range make the object, which holds them whole. A null face marks a cell
+  // whose object is made: the object is then the cell's only state.
+  struct Slot {
+    const CellFace* face = nullptr;
+    std::int16_t left = 0;
+    std::int16_t top = 0;
+    std::int16_t right = 0;
+    std::int16_t bottom = 0;
+  };
+
+  // The position of the first cell for which `match(face, left, top, right, bottom)`
+  // holds, 0 when none does; no object is made.
+  template <class Match>
+  std::int32_t FirstWhere(Match&& match) const;
+  Slot& SlotAt(std::int32_t index) const;  // throws index out of range
+  // The object of the cell at `position` (in range), made on first request.
+  CellPtr Made(std::int32_t position) const;
+  std::vector<CellPtr>::iterator MadeFrom(std::int32_t position) const;
+  FacePtr SharedFace(const CellFace* face) const;
+  void Append(const CellPtr& cell);
 
   const CommonGlobals& errors_;
-  std::vector<CellPtr> cells_;
+  // Handing out a cell's object leaves the list's content as it was, so a const
+  // request may make one.
+  mutable std::vector<Slot> slots_;
+  mutable std::vector<CellPtr> made_;  // the objects made so far, in position order
+  std::vector<FaceTable> tables_;      // the tables whose faces the slots show
   std::int32_t newIndex_ = 0;
   std::int32_t shape_ = 0;
 };

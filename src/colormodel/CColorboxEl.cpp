@@ -38,19 +38,8 @@ std::int32_t CColorboxEl::Index() const {
   std::int32_t result = 0;
   errors_.Trap("CColorboxEl", "Index", [&] {
     if (parent_ == nullptr) throw RuntimeError(err::ObjectNotSet);
-    // The remembered position holds unless the parent was set by hand; then walk.
-    if (position_ >= 1 && position_ <= parent_->Count() && parent_->begin()[position_ - 1].get() == this) {
-      result = position_;
-      return;
-    }
-    std::int32_t position = 0;
-    for (const auto& cell : *parent_) {
-      ++position;
-      if (cell.get() == this) {
-        result = position;
-        return;
-      }
-    }
+    // A parent set by hand to a list that does not hold this cell answers 0.
+    result = parent_->PositionOf(*this);
   });
   return result;
 }

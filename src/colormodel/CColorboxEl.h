@@ -45,7 +45,9 @@ class CColorboxEl {
   // 1-based position in the parent list, found by identity; 0 when absent. A cell
   // without a parent reports "object not set" and answers 0.
   std::int32_t Index() const;
-  // The list keeps each cell's position up to date, so Index answers without a walk.
+  // The position its list last gave the cell: the list keeps it up to date while it
+  // holds the cell, so Index answers without a walk.
+  std::int32_t Position() const { return position_; }
   void SetPosition(std::int32_t position) { position_ = position; }
 
   // "RR,GG,BB" and "#RRGGBB", upper-case. Values outside 0..FFFFFF report an invalid

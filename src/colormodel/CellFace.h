@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "colormodel/Types.h"
 
@@ -20,5 +21,7 @@ struct CellFace {
 };
 
 using FacePtr = std::shared_ptr<const CellFace>;
+// The faces of one table, built once per process and shared by every list showing it.
+using FaceTable = std::shared_ptr<const std::vector<CellFace>>;
 
 }  // namespace lumo
