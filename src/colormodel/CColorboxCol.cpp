@@ -1,7 +1,6 @@
 #include "colormodel/CColorboxCol.h"
 
 #include <algorithm>
-#include <functional>
 #include <limits>
 
 #include "colormodel/CheckedMath.h"
@@ -13,8 +12,15 @@ namespace {
 constexpr const char* kModule = "CColorboxCol";
 constexpr std::int32_t kFarthest = 1 << 30;
 
-bool FitsSlot(std::int32_t value) {
-  return value >= std::numeric_limits<std::int16_t>::min() && value <= std::numeric_limits<std::int16_t>::max();
+// Whether bounds fit a slot: a 16-bit corner, and a width and height of 0 to 255.
+bool FitsSlot(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) {
+  constexpr std::int64_t kLow = std::numeric_limits<std::int16_t>::min();
+  constexpr std::int64_t kHigh = std::numeric_limits<std::int16_t>::max();
+  constexpr std::int64_t kSide = std::numeric_limits<std::uint8_t>::max();
+  const std::int64_t width = std::int64_t{right} - left;
+  const std::int64_t height = std::int64_t{bottom} - top;
+  return kLow <= left && left <= kHigh && kLow <= top && top <= kHigh && 0 <= width && width <= kSide &&
+         0 <= height && height <= kSide;
 }
 
 bool Contains(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom, std::int32_t x,
@@ -58,12 +64,41 @@ void CColorboxCol::Append(const CellPtr& cell) {
 void CColorboxCol::AddAll(const FaceTable& faces) {
   errors_.Trap(kModule, "Add", [&] {
     if (!faces || faces->empty()) return;
-    if (std::find(tables_.begin(), tables_.end(), faces) == tables_.end()) tables_.push_back(faces);
+    const std::size_t first = FirstNumberOf(faces);
     // Exactly as many slots as cells: a control's list is loaded once and then kept.
     slots_.reserve(slots_.size() + faces->size());
-    for (const CellFace& face : *faces) slots_.push_back(Slot{&face});
+    for (std::size_t i = 0; i < faces->size(); ++i) {
+      if (first + i < Slot::ObjectMade) {
+        slots_.push_back(Slot{static_cast<std::uint16_t>(first + i)});
+      } else {
+        Append(std::make_shared<CColorboxEl>(errors_, FacePtr(faces, &(*faces)[i])));
+      }
+    }
     newIndex_ = Count();
   });
+}
+
+std::size_t CColorboxCol::FirstNumberOf(const FaceTable& faces) {
+  std::size_t first = 0;
+  for (const FaceTable& table : tables_) {
+    if (table == faces) return first;
+    first += table->size();
+  }
+  tables_.push_back(faces);
+  return first;
+}
+
+std::pair<const FaceTable*, std::size_t> CColorboxCol::Locate(std::uint16_t number) const {
+  // A slot's number always falls in a kept table: tables are dropped only with every slot.
+  std::size_t place = number;
+  auto table = tables_.begin();
+  while (place >= (*table)->size() && table + 1 != tables_.end()) place -= (*table++)->size();
+  return {&*table, place};
+}
+
+const CellFace& CColorboxCol::NumberedFace(std::uint16_t number) const {
+  const auto [table, place] = Locate(number);
+  return (**table)[place];
 }
 
 CColorboxCol::Slot& CColorboxCol::SlotAt(std::int32_t index) const {
@@ -75,22 +110,14 @@ std::vector<CellPtr>::iterator CColorboxCol::MadeFrom(std::int32_t position) con
   return std::lower_bound(made_.begin(), made_.end(), position, BeforePosition);
 }
 
-FacePtr CColorboxCol::SharedFace(const CellFace* face) const {
-  // The object shares the ownership of the table its face belongs to.
-  for (const FaceTable& table : tables_) {
-    const std::less<const CellFace*> before;
-    if (!before(face, table->data()) && before(face, table->data() + table->size())) return {table, face};
-  }
-  // Every slot's table is kept while the slot is listed; a copy is the safe answer all the same.
-  return std::make_shared<const CellFace>(*face);
-}
-
 CellPtr CColorboxCol::Made(std::int32_t position) const {
   Slot& slot = slots_[static_cast<std::size_t>(position - 1)];
   const auto at = MadeFrom(position);
-  if (slot.face == nullptr) return *at;
-  auto cell = std::make_shared<CColorboxEl>(errors_, SharedFace(slot.face));
-  cell->SetBounds(slot.left, slot.top, slot.right, slot.bottom);
+  if (slot.face == Slot::ObjectMade) return *at;
+  // The object's face shares the ownership of its table.
+  const auto [table, place] = Locate(slot.face);
+  auto cell = std::make_shared<CColorboxEl>(errors_, FacePtr(*table, &(**table)[place]));
+  cell->SetBounds(slot.left, slot.top, slot.left + slot.width, slot.top + slot.height);
   // The list's own cells name it as their parent, whether or not it is asked as const.
   cell->SetParent(const_cast<CColorboxCol*>(this));
   cell->SetPosition(position);
@@ -136,17 +163,17 @@ void CColorboxCol::Clear() {
 
 const CellFace& CColorboxCol::Face(std::int32_t index) const {
   const Slot& slot = SlotAt(index);
-  return slot.face != nullptr ? *slot.face : *(*MadeFrom(index))->Face();
+  return slot.face != Slot::ObjectMade ? NumberedFace(slot.face) : *(*MadeFrom(index))->Face();
 }
 
 void CColorboxCol::SetBounds(std::int32_t index, std::int32_t left, std::int32_t top, std::int32_t right,
                              std::int32_t bottom) {
   Slot& slot = SlotAt(index);
-  if (slot.face != nullptr && FitsSlot(left) && FitsSlot(top) && FitsSlot(right) && FitsSlot(bottom)) {
+  if (slot.face != Slot::ObjectMade && FitsSlot(left, top, right, bottom)) {
     slot.left = static_cast<std::int16_t>(left);
     slot.top = static_cast<std::int16_t>(top);
-    slot.right = static_cast<std::int16_t>(right);
-    slot.bottom = static_cast<std::int16_t>(bottom);
+    slot.width = static_cast<std::uint8_t>(right - left);
+    slot.height = static_cast<std::uint8_t>(bottom - top);
     return;
   }
   Made(index)->SetBounds(left, top, right, bottom);
@@ -154,14 +181,14 @@ void CColorboxCol::SetBounds(std::int32_t index, std::int32_t left, std::int32_t
 
 template <class Match>
 std::int32_t CColorboxCol::FirstWhere(Match&& match) const {
-  // The made objects come in position order, one per slot without a face, so one
-  // cursor through them serves the whole walk.
+  // The made objects come in position order, one per made slot, so one cursor
+  // through them serves the whole walk.
   auto made = made_.cbegin();
   for (std::size_t i = 0; i < slots_.size(); ++i) {
     const Slot& slot = slots_[i];
     bool found = false;
-    if (slot.face != nullptr) {
-      found = match(*slot.face, slot.left, slot.top, slot.right, slot.bottom);
+    if (slot.face != Slot::ObjectMade) {
+      found = match(NumberedFace(slot.face), slot.left, slot.top, slot.left + slot.width, slot.top + slot.height);
     } else {
       const CColorboxEl& cell = **made++;
       found = match(*cell.Face(), cell.BoundLeft(), cell.BoundTop(), cell.BoundRight(), cell.BoundBottom());

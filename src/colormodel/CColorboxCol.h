@@ -5,6 +5,7 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "colormodel/CColorboxEl.h"
@@ -21,8 +22,8 @@ using CellPtr = std::shared_ptr<CColorboxEl>;
 // hit test and the colour searches both controls use. The list owns its cells; a
 // caller that keeps a cell (a hot or selected cell) keeps it alive after removal.
 //
-// A cell added from a shared table costs the list one slot (its face and its drawn
-// bounds) until someone asks for it as an object (Item, the searches, iteration);
+// A cell added from a shared table costs the list one 8-byte slot (its face's number
+// and its drawn bounds) until someone asks for it as an object (Item, the searches, iteration);
 // from then on the list keeps that object, so every later request answers the same
 // cell, and the object holds the cell's state. The controls paint through Face and
 // SetBounds by position, so a shown control holds objects only for the cells it
@@ -100,16 +101,20 @@ class CColorboxCol {
   Iterator end() const { return {this, Count() + 1}; }
 
  private:
-  // A cell without an object: its shared face and its drawn bounds. Bounds outside the
-  // 16-bit range make the object, which holds them whole. A null face marks a cell
+  // A cell without an object, in 8 bytes: the number of its face among the faces of
+  // the kept tables, and its drawn bounds as a corner with a width and height of up
+  // to 255 pixels. Bounds that do not fit make the object, which holds them whole; a
+  // table's faces beyond the numbering come as objects at once. `ObjectMade` marks a cell
   // whose object is made: the object is then the cell's only state.
   struct Slot {
-    const CellFace* face = nullptr;
+    static constexpr std::uint16_t ObjectMade = 0xFFFF;
+    std::uint16_t face = ObjectMade;
     std::int16_t left = 0;
     std::int16_t top = 0;
-    std::int16_t right = 0;
-    std::int16_t bottom = 0;
+    std::uint8_t width = 0;
+    std::uint8_t height = 0;
   };
+  static_assert(sizeof(Slot) == 8);
 
   // The position of the first cell for which `match(face, left, top, right, bottom)`
   // holds, 0 when none does; no object is made.
@@ -119,7 +124,11 @@ class CColorboxCol {
   // The object of the cell at `position` (in range), made on first request.
   CellPtr Made(std::int32_t position) const;
   std::vector<CellPtr>::iterator MadeFrom(std::int32_t position) const;
-  FacePtr SharedFace(const CellFace* face) const;
+  // The number of the first face of `faces`, keeping the table if it is new.
+  std::size_t FirstNumberOf(const FaceTable& faces);
+  // The kept table holding face `number`, and the face's place in it.
+  std::pair<const FaceTable*, std::size_t> Locate(std::uint16_t number) const;
+  const CellFace& NumberedFace(std::uint16_t number) const;
   void Append(const CellPtr& cell);
 
   const CommonGlobals& errors_;
@@ -127,7 +136,7 @@ class CColorboxCol {
   // request may make one.
   mutable std::vector<Slot> slots_;
   mutable std::vector<CellPtr> made_;  // the objects made so far, in position order
-  std::vector<FaceTable> tables_;      // the tables whose faces the slots show
+  std::vector<FaceTable> tables_;      // the tables whose faces the slots show, in numbering order
   std::int32_t newIndex_ = 0;
   std::int32_t shape_ = 0;
 };
