@@ -64,14 +64,15 @@ ColorBox::ColorBox(host::QtHost& host, QWidget* parent) : QWidget(parent), d(std
   setFocusPolicy(Qt::StrongFocus);
   d->picScreen->setMouseTracking(true);  // hot tracking needs moves without a button
   setAccessibleName(tr("Colour palette"));
-  connect(&d->site, &host::QtControlSite::propertyChanged, this, &ColorBox::propertyChanged);
+  d->site.setChangeHandler([this](const QString& name) { emit propertyChanged(name); });
   // The drawing holds resolved colours at one pixel density: a new palette, or a move
   // to a screen of another scale, needs a fresh paint.
-  connect(d->picScreen, &host::SurfaceWidget::paletteChanged, this, [this] { d->core->Refresh(); });
-  connect(d->picScreen, &host::SurfaceWidget::devicePixelRatioChanged, this, [this] { d->core->Refresh(); });
+  d->picScreen->setStaleHandler([this](host::SurfaceWidget::Stale) { d->core->Refresh(); });
 }
 
-ColorBox::~ColorBox() = default;
+// The surface outlives the control's parts by a moment (Qt deletes children last):
+// nothing may reach them through it then.
+ColorBox::~ColorBox() { d->picScreen->setStaleHandler(nullptr); }
 
 ComboPickStyles ColorBox::PickStyle() const { return static_cast<ComboPickStyles>(d->core->PickStyle()); }
 void ColorBox::setPickStyle(ComboPickStyles style) { d->core->SetPickStyle(style); }

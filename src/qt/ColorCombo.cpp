@@ -136,18 +136,24 @@ ColorCombo::ColorCombo(host::QtHost& host, QWidget* parent)
   resize(kDefaultWidth, height());
   d->Create(nullptr);
   d->announced = currentColor();
-  connect(&d->site, &host::QtControlSite::propertyChanged, this, &ColorCombo::propertyChanged);
-  connect(&d->site, &host::QtControlSite::propertyChanged, this, [this] { d->PropertyChanged(); });
-  // The drawing holds resolved colours at one pixel density: a new palette, or a move
-  // to a screen of another scale, needs a fresh paint (and may change the shown colour).
-  connect(d->picScreen, &host::SurfaceWidget::paletteChanged, this, [this] {
-    d->core->Refresh();
-    d->Settle();
+  // A slot may delete the combo.
+  d->site.setChangeHandler([this](const QString& name) {
+    const QPointer<ColorCombo> alive(this);
+    emit propertyChanged(name);
+    if (alive) d->PropertyChanged();
   });
-  connect(d->picScreen, &host::SurfaceWidget::devicePixelRatioChanged, this, [this] { d->core->Refresh(); });
+  // The drawing holds resolved colours at one pixel density: a new palette, or a move
+  // to a screen of another scale, needs a fresh paint (and a new palette may change the
+  // shown colour).
+  d->picScreen->setStaleHandler([this](host::SurfaceWidget::Stale why) {
+    d->core->Refresh();
+    if (why == host::SurfaceWidget::Stale::Palette) d->Settle();
+  });
 }
 
-ColorCombo::~ColorCombo() = default;
+// The surface outlives the control's parts by a moment (Qt deletes children last):
+// nothing may reach them through it then.
+ColorCombo::~ColorCombo() { d->picScreen->setStaleHandler(nullptr); }
 
 bool ColorCombo::AllowHotTracking() const { return d->core->AllowHotTracking(); }
 void ColorCombo::setAllowHotTracking(bool allow) { d->core->SetAllowHotTracking(allow); }

@@ -80,11 +80,12 @@ ColorHexagon::ColorHexagon(host::QtHost& host, QWidget* parent)
   setAccessibleName(tr("Honeycomb colour picker"));
   // The drawing holds resolved colours at one pixel density: a new palette, or a move
   // to a screen of another scale, needs a fresh paint.
-  connect(d->picScreen, &host::SurfaceWidget::paletteChanged, this, [this] { d->core->Refresh(); });
-  connect(d->picScreen, &host::SurfaceWidget::devicePixelRatioChanged, this, [this] { d->core->Refresh(); });
+  d->picScreen->setStaleHandler([this](host::SurfaceWidget::Stale) { d->core->Refresh(); });
 }
 
-ColorHexagon::~ColorHexagon() = default;
+// The surface outlives the control's parts by a moment (Qt deletes children last):
+// nothing may reach them through it then.
+ColorHexagon::~ColorHexagon() { d->picScreen->setStaleHandler(nullptr); }
 
 OLE_COLOR ColorHexagon::BackColor() const { return d->core->BackColor(); }
 void ColorHexagon::setBackColor(OLE_COLOR color) { d->core->SetBackColor(color); }

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <optional>
 
+#include <QPointer>
+
 #include "colorsample/ColorSample.h"
 #include "qt/ControlLifecycle.h"
 #include "qt/QtControlSite.h"
@@ -47,18 +49,23 @@ ColorSample::ColorSample(host::QtHost& host, QWidget* parent)
   d->picScreen->setFocusPolicy(Qt::NoFocus);
   d->picScreen->setMouseTracking(false);
   setAccessibleName(tr("Colour sample"));
-  connect(&d->site, &host::QtControlSite::propertyChanged, this, &ColorSample::propertyChanged);
-  // A new text or font changes the size the sample would like.
-  connect(&d->site, &host::QtControlSite::propertyChanged, this, &QWidget::updateGeometry);
+  // A new text or font changes the size the sample would like. A slot may delete the
+  // sample.
+  d->site.setChangeHandler([this](const QString& name) {
+    const QPointer<ColorSample> alive(this);
+    emit propertyChanged(name);
+    if (alive) updateGeometry();
+  });
   // The drawing holds resolved colours at one pixel density: a new palette, or a move
   // to a screen of another scale, needs a fresh paint.
-  connect(d->picScreen, &host::SurfaceWidget::paletteChanged, this, [this] { d->core->Refresh(); });
-  connect(d->picScreen, &host::SurfaceWidget::devicePixelRatioChanged, this, [this] { d->core->Refresh(); });
+  d->picScreen->setStaleHandler([this](host::SurfaceWidget::Stale) { d->core->Refresh(); });
   // The size a new sample takes; the site passes it on to the control as its Resize.
   resize(sizeHint());
 }
 
-ColorSample::~ColorSample() = default;
+// The surface outlives the control's parts by a moment (Qt deletes children last):
+// nothing may reach them through it then.
+ColorSample::~ColorSample() { d->picScreen->setStaleHandler(nullptr); }
 
 void ColorSample::AboutBox() { d->core->AboutBox(); }
 OLE_COLOR ColorSample::BackColor() const { return d->core->BackColor(); }

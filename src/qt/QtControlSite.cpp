@@ -26,7 +26,11 @@ QtControlSite::QtControlSite(QWidget* widget, QObject* parent) : QObject(parent)
 QtControlSite::~QtControlSite() { ClearShortcuts(); }
 
 void QtControlSite::PropertyChanged(const std::string& name) {
-  emit propertyChanged(QString::fromStdString(name));
+  if (changeHandler_) {
+    changeHandler_(QString::fromStdString(name));
+  } else {
+    emit propertyChanged(QString::fromStdString(name));
+  }
 }
 
 lumo::StdFont QtControlSite::toStdFont(const QFont& font) {

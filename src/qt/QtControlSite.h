@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QObject>
@@ -34,7 +35,12 @@ class QtControlSite : public QObject, public lumo::ControlSite {
   explicit QtControlSite(QWidget* widget, QObject* parent = nullptr);
   ~QtControlSite() override;
 
+  // Emits propertyChanged, or, when the widget takes the change itself
+  // (setChangeHandler), hands it to the widget instead.
   void PropertyChanged(const std::string& name) override;
+  // The widget's own way to announce a change: a plain call, where a connection per
+  // control would cost more heap than the call's work.
+  void setChangeHandler(std::function<void(const QString&)> handler) { changeHandler_ = std::move(handler); }
 
   // The font of the form the control sits on (the parent's font; the application's font
   // for a widget without a parent), not the control's own.
@@ -81,6 +87,7 @@ class QtControlSite : public QObject, public lumo::ControlSite {
   bool widthFromContainer_ = false;
   QString accessKeys_;
   std::vector<QPointer<QShortcut>> shortcuts_;
+  std::function<void(const QString&)> changeHandler_;
 };
 
 }  // namespace LumoColorCombo::host

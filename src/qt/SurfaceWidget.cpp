@@ -217,7 +217,20 @@ void SurfaceWidget::syncDevicePixelRatio() {
   announcedRatio_ = ratio_;
   backing();
   update();
-  emit devicePixelRatioChanged();
+  goneStale(Stale::PixelRatio);
+}
+
+void SurfaceWidget::goneStale(Stale why) {
+  if (staleHandler_) {
+    const QPointer<SurfaceWidget> self(this);
+    staleHandler_(why);
+    if (!self) return;
+  }
+  if (why == Stale::Palette) {
+    emit paletteChanged();
+  } else {
+    emit devicePixelRatioChanged();
+  }
 }
 
 void SurfaceWidget::resizeEvent(QResizeEvent* event) {
@@ -549,7 +562,7 @@ void SurfaceWidget::focusOutEvent(QFocusEvent* event) {
 
 void SurfaceWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) emit paletteChanged();
+  if (event->type() == QEvent::PaletteChange) goneStale(Stale::Palette);
 }
 
 }  // namespace LumoColorCombo::host

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QFont>
 #include <QImage>
 #include <QRegion>
@@ -47,6 +49,14 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   static QFont propertyFont(const lumo::StdFont& font);
   // A colour value as this surface draws it now.
   QColor resolve(lumo::OLE_COLOR color) const;
+
+  // Why a drawing went stale: system colours from an old palette, or pixels at an old
+  // density.
+  enum class Stale { Palette, PixelRatio };
+  // What the owning control does then, called before the matching signal goes out: a
+  // plain call, where a connection per control would cost more heap than the widget's
+  // other links together.
+  void setStaleHandler(std::function<void(Stale)> handler) { staleHandler_ = std::move(handler); }
 
   // --- lumo::DrawingSurface -------------------------------------------------------
   lumo::WindowHandle hWnd() const override;
@@ -113,6 +123,8 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   void damageShape(int left, int top, int right, int bottom);
   void flushDamage();
   void syncDevicePixelRatio();
+  // The stale handler, then the signal, unless the handler took the surface away.
+  void goneStale(Stale why);
   void strokePolyline(const std::vector<lumo::Point>& points, QRgb color, int penWidth);
   // The tip text last assigned, handed to QWidget::setToolTip first if it is new.
   QString takeToolTip();
@@ -130,6 +142,7 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   // The tip text as last assigned, and whether QWidget's copy still lags behind it.
   std::string tipGiven_;
   bool tipPending_ = false;
+  std::function<void(Stale)> staleHandler_;
 };
 
 }  // namespace LumoColorCombo::host
