@@ -1,25 +1,40 @@
 #include "qt/QtHostTimer.h"
 
-#include <QTimer>
+#include <QObject>
+#include <QTimerEvent>
+
+#include <unordered_map>
 
 namespace LumoColorCombo::host {
+namespace {
 
-QtHostTimer::QtHostTimer(std::function<void()> tick) : tick_(std::move(tick)), timer_(new QTimer) {
-  QObject::connect(timer_, &QTimer::timeout, [this] { Tick(); });
-}
-
-QtHostTimer::~QtHostTimer() {
-  *alive_ = false;
-  timer_->stop();
-  QObject::disconnect(timer_, nullptr, nullptr, nullptr);
-  // A QTimer must not be deleted while it is delivering its own timeout; when the tick
-  // destroys us, let the event loop delete it once the tick has returned.
-  if (ticking_ > 0) {
-    timer_->deleteLater();
-  } else {
-    delete timer_;
+// Receives the ticks of every running host timer and hands each to its timer. It
+// lives as long as the process, so no timer can outlive it.
+class TimerReceiver : public QObject {
+ public:
+  static TimerReceiver& instance() {
+    static auto* receiver = new TimerReceiver;
+    return *receiver;
   }
-}
+
+  void add(int id, QtHostTimer* timer) { running_[id] = timer; }
+  void remove(int id) { running_.erase(id); }
+
+ protected:
+  void timerEvent(QTimerEvent* event) override {
+    const auto found = running_.find(event->timerId());
+    if (found != running_.end()) found->second->Tick();
+  }
+
+ private:
+  std::unordered_map<int, QtHostTimer*> running_;
+};
+
+}  // namespace
+
+QtHostTimer::QtHostTimer(std::function<void()> tick) : tick_(std::move(tick)) {}
+
+QtHostTimer::~QtHostTimer() { Stop(); }
 
 void QtHostTimer::SetInterval(std::int32_t milliseconds) {
   interval_ = milliseconds;
@@ -32,21 +47,24 @@ void QtHostTimer::SetEnabled(bool enabled) {
 }
 
 void QtHostTimer::Restart() {
-  if (enabled_ && interval_ > 0) {
-    timer_->start(interval_);
-  } else {
-    timer_->stop();
-  }
+  Stop();
+  if (!enabled_ || interval_ <= 0) return;
+  TimerReceiver& receiver = TimerReceiver::instance();
+  timer_.start(interval_, &receiver);
+  receiver.add(timer_.timerId(), this);
+}
+
+void QtHostTimer::Stop() {
+  if (!timer_.isActive()) return;
+  TimerReceiver::instance().remove(timer_.timerId());
+  timer_.stop();
 }
 
 void QtHostTimer::Tick() {
-  // Hold the alive flag and a copy of the handler: the handler may destroy this timer,
-  // and its captures must live until it returns.
-  const std::shared_ptr<bool> alive = alive_;
+  // A copy of the handler: it may destroy this timer, and its captures must live until
+  // it returns.
   const std::function<void()> tick = tick_;
-  ++ticking_;
   tick();
-  if (*alive) --ticking_;
 }
 
 }  // namespace LumoColorCombo::host

@@ -1,17 +1,20 @@
 #pragma once
 
 #include <functional>
-#include <memory>
+
+#include <QBasicTimer>
 
 #include "colormodel/HostTimer.h"
 
-class QTimer;
-
 namespace LumoColorCombo::host {
 
-// A control's or form's Timer1 on a QTimer. It runs only while enabled with a positive
-// interval (an interval of 0 never ticks), and changing the
-// interval of a running timer restarts its count. The tick may destroy this object.
+// A control's or form's Timer1 on Qt's event loop. It runs only while enabled with a
+// positive interval (an interval of 0 never ticks), and changing the interval of a
+// running timer restarts its count. The tick may destroy this object.
+//
+// No QTimer: every control has a Timer1, idle nearly all the time, and a QObject with
+// a connection for each would cost more heap than the control's drawing state. The
+// ticks of all of them reach one shared receiver, which finds the timer by its id.
 class QtHostTimer : public lumo::HostTimer {
  public:
   explicit QtHostTimer(std::function<void()> tick);
@@ -24,20 +27,17 @@ class QtHostTimer : public lumo::HostTimer {
   bool Enabled() const override { return enabled_; }
   void SetEnabled(bool enabled) override;
 
-  // The Qt timer behind it, for tests that wait on its timeout.
-  QTimer* qtTimer() const { return timer_; }
+  // Runs the handler; called by the shared receiver.
+  void Tick();
 
  private:
   void Restart();
-  void Tick();
+  void Stop();
 
   std::function<void()> tick_;
-  QTimer* timer_;
+  QBasicTimer timer_;
   std::int32_t interval_ = 0;
   bool enabled_ = false;
-  // Shared with a running tick, which must not touch this object once it is gone.
-  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
-  int ticking_ = 0;
 };
 
 }  // namespace LumoColorCombo::host

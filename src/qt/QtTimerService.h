@@ -4,7 +4,7 @@
 
 namespace LumoColorCombo::host {
 
-// Makes the QTimer-based timers; each runs on the thread that created it, the UI thread.
+// Makes the timers on Qt's event loop; each runs on the thread that created it, the UI thread.
 class QtTimerService : public lumo::TimerService {
  public:
   std::unique_ptr<lumo::HostTimer> CreateTimer(std::function<void()> tick) override;
