@@ -80,13 +80,21 @@ std::int16_t ButtonMask(Qt::MouseButtons buttons) {
   return mask;
 }
 
-// A second image over the same pixels, for one QPainter. The raster engine a painter
-// starts stays with the image it painted, about 2 kB with its buffers; on this view it
-// goes when the view does, instead of living as long as the surface.
-QImage PainterView(QImage& image) {
-  QImage view(image.bits(), image.width(), image.height(), image.bytesPerLine(), image.format());
-  view.setDevicePixelRatio(image.devicePixelRatio());
-  return view;
+// A second image over the same pixels, for a QPainter. The raster engine a painter
+// starts stays with the image it painted, about 2 kB with its buffers: painted through
+// a view, no surface keeps one. The view of the pixels painted last is kept, with its
+// engine, for the process: a surface that paints text again and again (a hover
+// repaints a button's caption) starts no new engine each time. It is never destroyed,
+// as an engine must not outlive the application's font caches.
+QImage& PainterView(QImage& image) {
+  static auto* view = new QImage;
+  uchar* bits = image.bits();
+  if (view->constBits() != bits || view->size() != image.size() || view->bytesPerLine() != image.bytesPerLine() ||
+      view->format() != image.format()) {
+    *view = QImage(bits, image.width(), image.height(), image.bytesPerLine(), image.format());
+  }
+  if (view->devicePixelRatio() != image.devicePixelRatio()) view->setDevicePixelRatio(image.devicePixelRatio());
+  return *view;
 }
 
 }  // namespace
@@ -203,7 +211,7 @@ void SurfaceWidget::rebuildImage() const {
   next.fill(rgb(BackColor()));
   // The drawing so far stays where it was, at the top left; a change of ratio scales it.
   if (!next.isNull() && !image_.isNull()) {
-    QImage view = PainterView(next);
+    QImage& view = PainterView(next);
     QPainter painter(&view);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(QPointF(0, 0), image_);
@@ -260,7 +268,7 @@ void SurfaceWidget::PaintPicture(const lumo::DrawingSurface& source, std::int32_
   // A copy, so that a surface can paint itself onto itself.
   const QImage picture = surface->image();
   draw([this, picture, x, y] {
-    QImage view = PainterView(image_);
+    QImage& view = PainterView(image_);
     QPainter painter(&view);
     painter.drawImage(QPointF(x, y), picture);
   });
@@ -369,7 +377,7 @@ void SurfaceWidget::DrawTextA(const std::string& text, const lumo::Rect& rect, s
   if (backing().isNull() || (clip && (box.width() <= 0 || box.height() <= 0))) return;
   draw([this, box, clip, font = qfont_, pen = resolve(ForeColor()), flags = TextFlags(format),
         line = QString::fromStdString(text)] {
-    QImage view = PainterView(image_);
+    QImage& view = PainterView(image_);
     QPainter painter(&view);
     if (clip) painter.setClipRect(box);
     painter.setFont(font);
@@ -382,7 +390,7 @@ void SurfaceWidget::DrawTextA(const std::string& text, const lumo::Rect& rect, s
 void SurfaceWidget::DrawPrintedText(double x, double y, const std::string& text) {
   if (backing().isNull()) return;
   draw([this, x, y, font = qfont_, pen = resolve(ForeColor()), lines = Lines(text)] {
-    QImage view = PainterView(image_);
+    QImage& view = PainterView(image_);
     QPainter painter(&view);
     painter.setFont(font);
     painter.setPen(pen);
