@@ -8,6 +8,9 @@ namespace LumoColorCombo::host {
 
 void MouseCapture::take(QWidget& widget) {
   if (!widget.isVisible()) return;
+  // Held already, and in the window system too: the grids ask again on every pointer
+  // move, and each grab is a request to the window system.
+  if (holder_ == &widget && QWidget::mouseGrabber() == &widget && !waitingWindow_) return;
   widget.grabMouse();
   QWindow* window = widget.window()->windowHandle();
   Watch(&widget, window != nullptr && !window->isExposed() ? window : nullptr);
