@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 
 #include "colormodel/CheckedMath.h"
 #include "colormodel/CommonGlobals.h"
+#include "colormodel/Geometry.h"
 
 namespace lumo {
 namespace {
@@ -21,11 +23,6 @@ bool FitsSlot(std::int32_t left, std::int32_t top, std::int32_t right, std::int3
   const std::int64_t height = std::int64_t{bottom} - top;
   return kLow <= left && left <= kHigh && kLow <= top && top <= kHigh && 0 <= width && width <= kSide &&
          0 <= height && height <= kSide;
-}
-
-bool Contains(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom, std::int32_t x,
-              std::int32_t y) {
-  return left <= x && x <= right && top <= y && y <= bottom;
 }
 
 bool BeforePosition(const CellPtr& cell, std::int32_t position) { return cell->Position() < position; }
@@ -97,6 +94,9 @@ std::pair<const FaceTable*, std::size_t> CColorboxCol::Locate(std::uint16_t numb
 }
 
 const CellFace& CColorboxCol::NumberedFace(std::uint16_t number) const {
+  // Most lists show one table: its faces are found without a walk.
+  const std::vector<CellFace>& first = *tables_.front();
+  if (number < first.size()) return first[number];
   const auto [table, place] = Locate(number);
   return (**table)[place];
 }
@@ -182,16 +182,26 @@ void CColorboxCol::SetBounds(std::int32_t index, std::int32_t left, std::int32_t
 template <class Match>
 std::int32_t CColorboxCol::FirstWhere(Match&& match) const {
   // The made objects come in position order, one per made slot, so one cursor
-  // through them serves the whole walk.
+  // through them serves the whole walk. A match on bounds never reads a face; each
+  // kind of cell has its own call, so a match reads only the fields it compares.
+  constexpr bool byBounds = std::is_invocable_v<Match&, const Rect&>;
   auto made = made_.cbegin();
   for (std::size_t i = 0; i < slots_.size(); ++i) {
     const Slot& slot = slots_[i];
     bool found = false;
     if (slot.face != Slot::ObjectMade) {
-      found = match(NumberedFace(slot.face), slot.left, slot.top, slot.left + slot.width, slot.top + slot.height);
+      if constexpr (byBounds) {
+        found = match(Rect{slot.left, slot.top, slot.left + slot.width, slot.top + slot.height});
+      } else {
+        found = match(NumberedFace(slot.face));
+      }
     } else {
       const CColorboxEl& cell = **made++;
-      found = match(*cell.Face(), cell.BoundLeft(), cell.BoundTop(), cell.BoundRight(), cell.BoundBottom());
+      if constexpr (byBounds) {
+        found = match(Rect{cell.BoundLeft(), cell.BoundTop(), cell.BoundRight(), cell.BoundBottom()});
+      } else {
+        found = match(*cell.Face());
+      }
     }
     if (found) return static_cast<std::int32_t>(i + 1);
   }
@@ -204,7 +214,7 @@ CellPtr CColorboxCol::FindClosest(OLE_COLOR lColor) const {
     std::int32_t best = kFarthest;
     std::int32_t bestPosition = 0;
     std::int32_t position = 0;
-    FirstWhere([&](const CellFace& face, auto...) {
+    FirstWhere([&](const CellFace& face) {
       ++position;
       const std::int32_t distance = checked::Abs(checked::Sub(face.Color, lColor));
       if (distance < best) {
@@ -219,21 +229,20 @@ CellPtr CColorboxCol::FindClosest(OLE_COLOR lColor) const {
 }
 
 CellPtr CColorboxCol::GetObject(std::int32_t lX, std::int32_t lY) const {
-  const std::int32_t position = FirstWhere([&](const CellFace&, std::int32_t left, std::int32_t top,
-                                               std::int32_t right, std::int32_t bottom) {
-    return Contains(left, top, right, bottom, lX, lY);
+  const std::int32_t position = FirstWhere([&](const Rect& bounds) {
+    return bounds.Left <= lX && lX <= bounds.Right && bounds.Top <= lY && lY <= bounds.Bottom;
   });
   return position > 0 ? Made(position) : nullptr;
 }
 
 CellPtr CColorboxCol::GetObjectByColor(OLE_COLOR lColor) const {
-  const std::int32_t position = FirstWhere([&](const CellFace& face, auto...) { return face.Color == lColor; });
+  const std::int32_t position = FirstWhere([&](const CellFace& face) { return face.Color == lColor; });
   return position > 0 ? Made(position) : nullptr;
 }
 
 bool CColorboxCol::ColorExists(OLE_COLOR lColor) const {
   // Asked by colour only: no object is needed to answer.
-  return FirstWhere([&](const CellFace& face, auto...) { return face.Color == lColor; }) > 0;
+  return FirstWhere([&](const CellFace& face) { return face.Color == lColor; }) > 0;
 }
 
 std::int32_t CColorboxCol::PositionOf(const CColorboxEl& cell) const {

@@ -116,8 +116,8 @@ class CColorboxCol {
   };
   static_assert(sizeof(Slot) == 8);
 
-  // The position of the first cell for which `match(face, left, top, right, bottom)`
-  // holds, 0 when none does; no object is made.
+  // The position of the first cell for which `match` holds, given the cell's face or,
+  // when it takes a Rect, its inclusive drawn bounds; 0 when none does. No object is made.
   template <class Match>
   std::int32_t FirstWhere(Match&& match) const;
   Slot& SlotAt(std::int32_t index) const;  // throws index out of range
