@@ -4,40 +4,44 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include "colorbox/ColorBox.h"
+#include "colorbox/ColorBoxEvents.h"
+#include "colorcombo/ColorCombo.h"
+#include "colorcombo/ColorComboEvents.h"
+#include "colorhexagon/ColorHexagon.h"
+#include "colorhexagon/ColorHexagonEvents.h"
 #include "colormodel/CommonGlobals.h"
 #include "colormodel/RuntimeError.h"
+#include "colorsample/ColorSample.h"
+#include "support/MemoryPropertyBag.h"
 #include "support/RecordingSite.h"
+#include "support/RecordingSurface.h"
 #include "support/TestHost.h"
+#include "support/TestLabel.h"
 
 namespace lumo {
 namespace {
 
+using testing::MemoryPropertyBag;
 using testing::TestHost;
 
-TEST(ErrorMessage, FiveCrLfLinesOrTheCustomTextThenTheDescription) {
-  const std::pair<std::string, std::string> cases[] = {
-      {CommonGlobals::ErrorMessage(6, "Overflow", "CColorboxCol", "FindClosest"),
-       "Error Number: 6\r\nModule: CColorboxCol\r\nProcedure: FindClosest\r\n\r\nOverflow\r\n"},
-      {CommonGlobals::ErrorMessage(-2147221504, "x", "m", "p"),
-       "Error Number: -2147221504\r\nModule: m\r\nProcedure: p\r\n\r\nx\r\n"},
-      {CommonGlobals::ErrorMessage(5, "d", "m", "p", Variant("Could not draw")), "Could not draw\r\nd\r\n"},
-      {CommonGlobals::ErrorMessage(5, "d", "m", "p", Variant(std::int32_t{42})), "42\r\nd\r\n"},
-      {CommonGlobals::ErrorMessage(5, "d", "m", "p", Variant(true)), "True\r\nd\r\n"}};
-  for (const auto& [message, expected] : cases) EXPECT_EQ(message, expected);
-}
-
-TEST(ReportError, ShowsAnExclamationBoxTitledErrorAndNeverFails) {
+// Five CrLf lines, or the custom text before the description, in an exclamation box
+// titled "Error"; a display that fails while it shows does not reach the caller.
+TEST(ReportError, ShowsTheFiveLineTextOrTheCustomTextAndNeverFails) {
   TestHost host;
-  host.Errors().ReportError(9, "Index out of range", "ColorBox", "Refresh");
-  ASSERT_EQ(host.Messages.Shown.size(), 1u);
-  EXPECT_EQ(host.Messages.Shown[0].Title, "Error");
-  EXPECT_EQ(host.Messages.Shown[0].Style, 48);
-  EXPECT_EQ(host.Messages.Shown[0].Prompt,
-            "Error Number: 9\r\nModule: ColorBox\r\nProcedure: Refresh\r\n\r\nIndex out of range\r\n");
+  host.Errors().ReportError(-2147221504, "Index out of range", "ColorBox", "Refresh");
+  host.Errors().ReportError(5, "d", "m", "p", Variant(std::int32_t{42}));
   host.Messages.WhileShown = [] { throw std::runtime_error("display gone"); };
   EXPECT_NO_THROW(host.Errors().ReportError(5, "d", "m", "p"));
-  EXPECT_EQ(host.Messages.Shown.size(), 2u);
+  EXPECT_EQ(host.Messages.Prompts(),
+            (std::vector<std::string>{
+                "Error Number: -2147221504\r\nModule: ColorBox\r\nProcedure: Refresh\r\n\r\nIndex out of range\r\n",
+                "42\r\nd\r\n", "Error Number: 5\r\nModule: m\r\nProcedure: p\r\n\r\nd\r\n"}));
+  EXPECT_EQ(std::pair(host.Messages.Shown[0].Title, host.Messages.Shown[0].Style),
+            std::pair(std::string("Error"), 48));
 }
 
 // The body's earlier effects stay, what it raises is reported under its label with the
@@ -68,32 +72,15 @@ TEST(Trap, ReportsWhatTheBodyRaisesUnderItsLabel) {
   }
 }
 
-TEST(TrapAndNotify, NotifiesWithTheLabelOnBothPaths) {
+// No control reaches this overload (the controls pass their liveness token), nor throws
+// anything but a RuntimeError into IgnoreErrors.
+TEST(TrapAndNotify, NotifiesUnderTheLabelWhenTheBodyFails) {
   TestHost host;
   testing::RecordingSite site;
-  host.Errors().TrapAndNotify("ColorBox", "PickStyle [Let]", site, [] {});
   host.Errors().TrapAndNotify("ColorBox", "Color [Let]", site, [] { throw RuntimeError(err::Overflow); });
-  EXPECT_EQ(site.Changed, (std::vector<std::string>{"PickStyle [Let]", "Color [Let]"}));
-  ASSERT_EQ(host.Messages.Shown.size(), 1u);
-  EXPECT_NE(host.Messages.Shown[0].Prompt.find("Procedure: Color [Let]"), std::string::npos);
+  EXPECT_EQ(site.Changed, std::vector<std::string>{"Color [Let]"});
+  EXPECT_EQ(host.Messages.Shown.size(), 1u);
   EXPECT_NO_THROW(CommonGlobals::IgnoreErrors([] { throw 1; }));
-}
-
-TEST(PopupResult, ReDimDiscardsOldContentsResetLeavesOneFalseSlotAndMissingSlotsAreIndexErrors) {
-  TestHost host;
-  EXPECT_THROW(host.Runtime.PopupResultAt(0), RuntimeError);
-  host.Runtime.ReDimPopupResult(4);
-  host.Runtime.PopupResult()[1] = Variant(std::int32_t{255});
-  host.Runtime.ReDimPopupResult(5);
-  EXPECT_EQ(host.Runtime.PopupResult(), std::vector<Variant>(5));
-  host.Runtime.ResetPopupResult();
-  EXPECT_EQ(host.Runtime.PopupResult(), std::vector<Variant>{Variant(false)});
-  try {
-    host.Runtime.PopupResultAt(1);
-    FAIL() << "slot 1 should not exist";
-  } catch (const RuntimeError& e) {
-    EXPECT_EQ(e.Number(), err::IndexOutOfRange);
-  }
 }
 
 struct Probe {
@@ -113,6 +100,65 @@ TEST(SharedForms, OneInstancePerClassDroppedSafelyFromInsideItself) {
   EXPECT_EQ(destroyed, 0);  // still alive: its handler may be running
   host.Runtime.SetSharedForm(std::make_unique<Probe>(destroyed));
   EXPECT_EQ(destroyed, 1);
+}
+
+// Loading a form file into each control: a missing key is no damage, a damaged value is
+// reported.
+enum class Kind { Box, Hexagon, Combo, Sample };
+
+// Every control on one headless host, each created only while it loads.
+struct Host : ::testing::Test, ColorBoxEvents, ColorHexagonEvents, ColorComboEvents {
+  // Creates a control of `kind` and loads and saves it the way a container does, through
+  // the events the site delivers.
+  void LoadAndSave(Kind kind, const PropertyBag& stored, PropertyBag& saved) {
+    std::shared_ptr<void> control;
+    if (kind == Kind::Box) control = std::make_shared<ColorBox>(host.Runtime, surface, site, *this);
+    if (kind == Kind::Hexagon) control = std::make_shared<ColorHexagon>(host.Runtime, surface, label, site, *this);
+    if (kind == Kind::Combo) control = std::make_shared<ColorCombo>(host.Runtime, surface, site, *this);
+    if (kind == Kind::Sample) control = std::make_shared<ColorSample>(host.Runtime, surface, site);
+    site.StartControl(&stored);
+    site.SaveControl(saved);
+  }
+
+  testing::TestHost host;
+  testing::RecordingSurface surface;
+  testing::RecordingSite site;
+  testing::TestLabel label;
+};
+
+// A value that does not convert is reported with the reading procedure's label, and
+// reading stops there: the later key, stored with a value of its own, keeps its default
+// (so saving leaves it out). A missing key is no damage.
+TEST_F(Host, DamagedValueIsReportedAndStopsTheRead) {
+  const struct {
+    Kind kind;
+    const char *module, *damagedKey, *laterKey;  // laterKey: read after the damaged one
+  } cases[] = {{Kind::Box, "ColorBox", "AllowMoreColors", "Color"},
+               {Kind::Box, "ColorBox", "Color", "AutoColor"},
+               {Kind::Hexagon, "ColorHexagon", "IsAutomatic", "Color"},
+               {Kind::Hexagon, "ColorHexagon", "Color", "BackColor"},
+               {Kind::Combo, "LumoDropdown", "AllowMoreColors", "Color"},
+               {Kind::Combo, "LumoDropdown", "Color", "AutoColor"},
+               {Kind::Sample, "ColorSample", "BackColor", "ForeColor"}};
+  for (const auto& c : cases) {
+    MemoryPropertyBag stored, saved;
+    stored.Values[c.damagedKey] = Variant("garbage");
+    stored.Values[c.laterKey] = Variant(std::int32_t{0xFF});
+    host.Messages.Shown.clear();
+    LoadAndSave(c.kind, stored, saved);
+    ASSERT_EQ(host.Messages.Shown.size(), 1u) << c.module << " " << c.damagedKey;
+    const std::string& prompt = host.Messages.Shown.front().Prompt;
+    const std::string where = "Module: " + std::string(c.module) + "\r\nProcedure: UserControl_ReadProperties\r\n";
+    EXPECT_NE(prompt.find(where), std::string::npos) << prompt;
+    EXPECT_EQ(saved.Values.count(c.laterKey), 0u) << c.module << " " << c.laterKey;
+  }
+}
+
+TEST_F(Host, MissingKeysLoadTheirDefaultsWithoutAReport) {
+  MemoryPropertyBag stored, saved;
+  for (const Kind kind : {Kind::Box, Kind::Hexagon, Kind::Combo, Kind::Sample}) LoadAndSave(kind, stored, saved);
+  EXPECT_TRUE(host.Messages.Shown.empty());
+  EXPECT_TRUE(saved.Values.empty());
 }
 
 }  // namespace
