@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "ColorBoxHarness.h"
@@ -142,14 +143,11 @@ TEST_F(ColorBoxPointer, PressAndReleaseDecideWhatIsChosen) {
 
 TEST_F(ColorBoxPointer, ChoosingStoresTheCellAndTheClickHandlerOnlyGetsCopies) {
   WhileClick = [](OLE_COLOR& color, bool& automatic) { color = 1, automatic = !automatic; };
+  const auto state = [&] { return std::tuple(box->Color(), box->ColorName(), box->IsAutomatic()); };
   ClickAt(CellCentre(14));
-  EXPECT_EQ(box->Color(), RGB(255, 0, 0));
-  EXPECT_EQ(box->ColorName(), "Red");
-  EXPECT_FALSE(box->IsAutomatic());
+  EXPECT_EQ(state(), std::tuple(RGB(255, 0, 0), "Red", false));
   ClickAt(Centre(box->AutoRect()));
-  EXPECT_TRUE(box->IsAutomatic());
-  EXPECT_EQ(box->Color(), RGB(255, 0, 0));
-  EXPECT_EQ(box->ColorName(), "Red");  // Automatic does not touch the name
+  EXPECT_EQ(state(), std::tuple(RGB(255, 0, 0), "Red", true));  // Automatic does not touch the name
   ClickAt({CellCentre(1).X + 9, CellCentre(1).Y});
   EXPECT_EQ(box->ColorName(), "");  // a release over nothing still forgets the name
 }
@@ -158,16 +156,13 @@ TEST_F(ColorBoxPointer, HoverMakesACellHotOnceAndLeavingItRepaintsItPlain) {
   MoveTo(CellCentre(3));
   MoveTo({CellCentre(3).X + 1, CellCentre(3).Y});
   EXPECT_EQ(Log, (Lines{"OverColor 8200"}));
-  EXPECT_EQ(surface.ToolTipText(), "Green");
-  EXPECT_EQ(box->HotIndex(), 3);
-  EXPECT_EQ(box->FocusZone(), focuszone::Grid);
+  EXPECT_EQ(std::tuple(surface.ToolTipText(), box->HotIndex(), box->FocusZone()),
+            std::tuple("Green", 3, focuszone::Grid));
   surface.ClearCalls();
   MoveTo(Centre(box->AutoRect()));
   EXPECT_EQ(Log, (Lines{"OverColor 8200", "OverColor 0 auto"}));
-  EXPECT_EQ(box->FocusZone(), focuszone::Automatic);
-  EXPECT_EQ(box->HotCell(), nullptr);
-  EXPECT_EQ(surface.ToolTipText(), "");
-  EXPECT_EQ(surface.CountOf("DrawEdge"), 0);
+  EXPECT_EQ(std::tuple(box->FocusZone(), box->HotCell(), surface.ToolTipText(), surface.CountOf("DrawEdge")),
+            std::tuple(focuszone::Automatic, nullptr, "", 0));
   MoveTo(Centre(box->MoreRect()));
   EXPECT_EQ(box->FocusZone(), focuszone::MoreColors);
   EXPECT_EQ(Guarded, std::vector<bool>(Guarded.size(), true));
