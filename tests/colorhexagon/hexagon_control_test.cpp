@@ -92,13 +92,6 @@ TEST_F(Hexagon, InitialisePaintsEachCellInItsOwnColourAndStoresItsBox) {
   EXPECT_EQ(Selected(), 0);
 }
 
-TEST_F(Hexagon, NewPlacementLoadsTheTableASecondTime) {
-  hexagon.UserControl_InitProperties();
-  ASSERT_EQ(hexagon.Cells()->Count(), 2 * HexagonTable::CellCount);
-  EXPECT_EQ(Cell(136)->Color(), Cell(1)->Color());
-  EXPECT_EQ(hexagon.Cells()->GetObject(Centre(1).X, Centre(1).Y), Cell(1));  // the first copy is hit
-}
-
 TEST_F(Hexagon, SelectionMarkIsInsetThreeLeftTwoRightInInvertedColourAtPenWidthTwo) {
   MakeManual();
   hexagon.SetColor(ColorHexagon::DefaultColor);
