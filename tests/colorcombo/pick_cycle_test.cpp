@@ -56,7 +56,7 @@ TEST_P(Cycles, RaiseTheirEventsInOrderAndLeaveTheirColour) {
   EXPECT_EQ(combo->IsAutomatic(), c.endAutomatic);
   EXPECT_EQ(text::Hex(combo->Color()), text::Hex(c.endColor));
   EXPECT_EQ(combo->DropButtonPressed(), c.cancelIn.find("Changed") != std::string::npos);
-  EXPECT_EQ(host.Windows.LoadedForms.empty(), c.cancelIn == "BeforeDropDown");
+  EXPECT_EQ(LastDropdown() == nullptr, c.cancelIn == "BeforeDropDown");
   if (LastDropdown() != nullptr) { EXPECT_FALSE(LastDropdown()->ModalLeftOpen); }
   EXPECT_EQ(Shared(), nullptr);
   EXPECT_EQ(host.Windows.Capture, 0u);
@@ -201,7 +201,7 @@ TEST_P(Opening, PlacesTheWindowAndGrowsItToItsFullSize) {
   host.Windows.OnDoEvents = [&] {
     widths.push_back(LastDropdown()->Width());
     heights.push_back(LastDropdown()->Height());
-    if (host.Windows.DoEventsCalls == endAt) LastDropdown()->Deactivate();
+    if (std::ssize(widths) == endAt) LastDropdown()->Deactivate();
   };
   Open([&](Dropdown& d) {
     const ControlSite& box = d.form.Site("ColorBox1");

@@ -20,7 +20,6 @@ class ScriptedWindowSystem : public WindowSystem {
     auto form = std::make_unique<TestForm>(events, nextHandle_ += 0x10);
     if (const auto script = scripts_.find(name); script != scripts_.end()) form->ModalScript = script->second;
     lastForms_[name] = form.get();
-    LoadedForms.push_back(name);
     return form;
   }
   std::int32_t ScreenWidth() const override { return 1024 * 15; }
@@ -43,7 +42,6 @@ class ScriptedWindowSystem : public WindowSystem {
     return {origin.X + point.X, origin.Y + point.Y};
   }
   void DoEvents() override {
-    ++DoEventsCalls;
     if (OnDoEvents) OnDoEvents();
   }
   void ShowAboutBox(WindowHandle owner) override { AboutBoxOwners.push_back(owner); }
@@ -66,9 +64,7 @@ class ScriptedWindowSystem : public WindowSystem {
   std::map<WindowHandle, Point> ClientOrigins;  // screen position of each window's client origin
   std::vector<WindowHandle> CaptureCalls;
   int ReleaseCalls = 0;
-  int DoEventsCalls = 0;
   std::function<void()> OnDoEvents;
-  std::vector<std::string> LoadedForms;
   std::vector<WindowHandle> AboutBoxOwners;
 
  private:
