@@ -9,7 +9,9 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "qt/AccessibleCellList.h"
@@ -118,6 +120,22 @@ SurfaceWidget::~SurfaceWidget() = default;
 QWidget* SurfaceWidget::widgetFromHandle(lumo::WindowHandle handle) { return WidgetHandles::widgetOf(handle); }
 
 QFont SurfaceWidget::qtFont(const lumo::StdFont& font) {
+  // Nearly every surface asks for one of the same few fonts: the ones made last are
+  // handed out again, so that surfaces share a QFont's data instead of holding a copy
+  // each. Kept for the process, as a font must not outlive the application's caches.
+  constexpr std::size_t kKept = 4;
+  static auto* made = new std::array<std::optional<std::pair<lumo::StdFont, QFont>>, kKept>();
+  static std::size_t next = 0;
+  for (const auto& kept : *made) {
+    if (kept && kept->first == font) return kept->second;
+  }
+  auto& slot = (*made)[next];
+  next = (next + 1) % kKept;
+  slot.emplace(font, newQtFont(font));
+  return slot->second;
+}
+
+QFont SurfaceWidget::newQtFont(const lumo::StdFont& font) {
   QFont result(QString::fromStdString(font.Name));
   // A family this system lacks ("MS Sans Serif") falls back to a sans-serif one.
   result.setStyleHint(QFont::SansSerif);

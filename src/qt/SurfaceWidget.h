@@ -105,6 +105,7 @@ class SurfaceWidget : public QWidget, public lumo::DrawingSurface {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  static QFont newQtFont(const lumo::StdFont& font);
   QRgb rgb(lumo::OLE_COLOR color) const;
   // The image, first brought to the widget's current size and pixel ratio. Qt sends no
   // resize event to a hidden widget, yet the controls draw before they are shown.
