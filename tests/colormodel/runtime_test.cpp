@@ -134,11 +134,8 @@ TEST_F(Host, DamagedValueIsReportedAndStopsTheRead) {
     Kind kind;
     const char *module, *damagedKey, *laterKey;  // laterKey: read after the damaged one
   } cases[] = {{Kind::Box, "ColorBox", "AllowMoreColors", "Color"},
-               {Kind::Box, "ColorBox", "Color", "AutoColor"},
-               {Kind::Hexagon, "ColorHexagon", "IsAutomatic", "Color"},
                {Kind::Hexagon, "ColorHexagon", "Color", "BackColor"},
                {Kind::Combo, "LumoDropdown", "AllowMoreColors", "Color"},
-               {Kind::Combo, "LumoDropdown", "Color", "AutoColor"},
                {Kind::Sample, "ColorSample", "BackColor", "ForeColor"}};
   for (const auto& c : cases) {
     MemoryPropertyBag stored, saved;
