@@ -33,7 +33,7 @@ class CColorboxCol {
   // In-order iteration; each step answers the cell's object, making it if needed.
   class Iterator {
    public:
-    using iterator_category = std::forward_iterator_tag;
+    using iterator_category = std::input_iterator_tag;
     using value_type = CellPtr;
     using difference_type = std::ptrdiff_t;
     using pointer = void;
