@@ -2,9 +2,10 @@
 // Its drop-down is a popup under the field, placed against the combo's window, grown to
 // its full size, active and with the keyboard on its grid, which holds the mouse: the
 // colour under the pointer shows in the field, and the pointer leaving the grid ends its
-// hot cell. A click or Return picks; the More Colors dialog takes the mouse from the
-// grid and its Ok picks; a press outside the grid, outside the application or the
-// application losing the activation each close it with the old colour.
+// hot cell. A click or Return picks; the More Colors dialog stands over the combo's
+// window in its palette, takes the mouse from the grid and its Ok picks; a press outside
+// the grid, outside the application or the application losing the activation each close
+// it with the old colour.
 #include <QPushButton>
 #include <QScreen>
 #include <QtTest>
@@ -70,6 +71,7 @@ void ComboDropdownTest::endsThroughTheServer() {
   QFETCH(QString, ending);
   QWidget window;
   window.setGeometry(100, 100, 400, 320);
+  window.setPalette(QPalette(QColor(0x20, 0x24, 0x2C)));  // a palette the dialog takes on
   auto* combo = new ColorCombo(&window);
   combo->setGeometry(20, 20, 180, combo->height());
   combo->setIsAutomatic(false);
@@ -158,9 +160,11 @@ void ComboDropdownTest::End(const QString& ending, QWidget& window, host::Surfac
         host::QtFormWindow* dialog = ShownForms::Find("frmPopup");
         return dialog != nullptr && dialog->isActiveWindow();
       },
-      [this] {
+      [this, &window] {
         host::QtFormWindow& dialog = *ShownForms::Find("frmPopup");
         QVERIFY2(ShownForms::Find("frmDropdown") == nullptr, "the drop-down steps aside for the dialog");
+        QCOMPARE(dialog.windowHandle()->transientParent(), window.windowHandle());
+        QCOMPARE(dialog.grab().toImage().pixelColor(1, 1), window.palette().color(QPalette::Window));
         inDialog_ = ShownForms::ClickCell(*dialog.children().findSurface(QStringLiteral("ColorHexagon1")));
         ServerInput::Click(CentreOf(*dialog.children().findButton(QStringLiteral("cmdButton"), 0)));
       });
