@@ -54,7 +54,6 @@ class PropertyBagTest : public QObject {
     QTest::addColumn<QString>("text");
     QTest::newRow("not JSON") << QStringLiteral("{\"Style\": 3, \"Font\": {\"Name\"");
     QTest::newRow("not an object") << QStringLiteral("[1, 2, 3]");
-    QTest::newRow("empty") << QString();
     QTest::newRow("wrong kinds") << QStringLiteral(
         R"({"Style": [1], "Enabled": {"a": 1}, "Caption": {"x": true}, "Font": [12], "Color": 1.5})");
     QTest::newRow("damaged font") << QStringLiteral(R"({"Font": {"Name": "Arial", "Size": "big", "Bold": "yes"}})");
