@@ -60,6 +60,16 @@ QRect Ink(const SurfaceWidget& surface) {
   return box;
 }
 
+// The colour of a logical pixel on a 2x surface, checking that its whole 2x2 block agrees.
+QColor Logical(const SurfaceWidget& surface, int x, int y) {
+  const QImage& image = surface.image();
+  const QColor color = image.pixelColor(2 * x, 2 * y);
+  for (auto [dx, dy] : {std::pair{1, 0}, {0, 1}, {1, 1}}) {
+    if (image.pixelColor(2 * x + dx, 2 * y + dy) != color) return QColor();
+  }
+  return color;
+}
+
 }  // namespace
 
 class SurfaceTest : public QObject {
@@ -78,9 +88,31 @@ class SurfaceTest : public QObject {
     surface->SetFillColor(kFill);
     recorder = Recorder();
     surface->SetListener(&recorder);
-    QCOMPARE(surface->image().devicePixelRatio(), 1.0);
   }
   void cleanup() { surface.reset(); }
+
+  // On a 2x screen (CTest's qt_surface_test_2x runs this alone with QT_SCALE_FACTOR=2)
+  // geometry stays in logical pixels, each logical pixel becomes a sharp 2x2 block, and
+  // the rectangle, line and focus frame rules hold per logical pixel.
+  void pixelRulesHoldPerLogicalPixelAt2x() {
+    if (surface->image().devicePixelRatio() != 2.0) QSKIP("runs on a 2x screen only");
+    QCOMPARE(surface->ScaleWidth(), 120);
+    QCOMPARE(surface->image().size(), QSize(240, 80));
+    surface->Rectangle(2, 2, 10, 8);
+    surface->MoveToEx(20, 2);
+    surface->LineTo(30, 12);
+    // The rectangle's ring without its right and bottom edge, and the line without its end.
+    const QColor pen = Color(kPen), back = Color(kBack);
+    const std::pair<QPoint, QColor> expected[] = {{{2, 2}, pen},   {{9, 7}, pen},   {{10, 7}, back},
+                                                  {{9, 8}, back},  {{5, 5}, back},  {{20, 2}, pen},
+                                                  {{29, 11}, pen}, {{30, 12}, back}};
+    for (const auto& [at, colour] : expected) QCOMPARE(Logical(*surface, at.x(), at.y()), colour);
+    const QImage before = surface->image().copy();
+    surface->DrawFocusRect({1, 1, 15, 11});
+    QVERIFY(surface->image() != before);
+    surface->DrawFocusRect({1, 1, 15, 11});
+    QCOMPARE(surface->image(), before);
+  }
 
   void rectangleLeavesOutRightAndBottom_data() {
     QTest::addColumn<QRect>("corners");  // left, top, right, bottom in x, y, width, height
