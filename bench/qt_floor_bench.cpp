@@ -363,7 +363,9 @@ void BM_Hover_Grid272(benchmark::State& state) {
   QWidget* surface = box->surface();
   const auto [first, second] = HotCells(*box);
   const QPoint cell[2] = {first, second};
-  const QPoint plainCell[2] = {QPoint(145 - 9, 181), QPoint(145 + 9, 181)};
+  // Near the plain widget's left edge: at 2x the offscreen screen is 400 by 300 logical
+  // pixels, and a pointer moved beyond it reaches no widget.
+  const QPoint plainCell[2] = {QPoint(9, 181), QPoint(27, 181)};
   QCursor::setPos(surface->mapToGlobal(cell[0]));
   PaintCounter painted(surface);
   PaintCounter plainPainted(&plain);
