@@ -1,7 +1,9 @@
 #include "colormodel/CColorboxCol.h"
 
 #include <algorithm>
+#include <functional>
 #include <limits>
+#include <optional>
 #include <type_traits>
 
 #include "colormodel/CheckedMath.h"
@@ -110,10 +112,43 @@ std::vector<CellPtr>::iterator CColorboxCol::MadeFrom(std::int32_t position) con
   return std::lower_bound(made_.begin(), made_.end(), position, BeforePosition);
 }
 
+std::optional<std::uint16_t> CColorboxCol::NumberOf(const CellFace* face) const {
+  std::size_t first = 0;
+  for (const FaceTable& table : tables_) {
+    const std::less<const CellFace*> before;
+    if (!before(face, table->data()) && before(face, table->data() + table->size())) {
+      const std::size_t number = first + static_cast<std::size_t>(face - table->data());
+      if (number < Slot::ObjectMade) return static_cast<std::uint16_t>(number);
+      return std::nullopt;
+    }
+    first += table->size();
+  }
+  return std::nullopt;
+}
+
+void CColorboxCol::FoldUnheld() const {
+  // An object that only the list holds, still showing its table's face, with bounds a
+  // slot can keep, turns back into its slot: a pointer that visits every cell leaves
+  // no objects behind. Nobody can tell the object it answers next from this one.
+  std::erase_if(made_, [&](const CellPtr& cell) {
+    if (cell.use_count() != 1) return false;
+    const auto number = NumberOf(cell->Face().get());
+    const std::int32_t left = cell->BoundLeft();
+    const std::int32_t top = cell->BoundTop();
+    if (!number || !FitsSlot(left, top, cell->BoundRight(), cell->BoundBottom())) return false;
+    slots_[static_cast<std::size_t>(cell->Position() - 1)] =
+        Slot{*number, static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
+             static_cast<std::uint8_t>(cell->BoundRight() - left), static_cast<std::uint8_t>(cell->BoundBottom() - top)};
+    cell->SetParent(nullptr);
+    return true;
+  });
+}
+
 CellPtr CColorboxCol::Made(std::int32_t position) const {
   Slot& slot = slots_[static_cast<std::size_t>(position - 1)];
+  if (slot.face == Slot::ObjectMade) return *MadeFrom(position);
+  FoldUnheld();
   const auto at = MadeFrom(position);
-  if (slot.face == Slot::ObjectMade) return *at;
   // The object's face shares the ownership of its table.
   const auto [table, place] = Locate(slot.face);
   auto cell = std::make_shared<CColorboxEl>(errors_, FacePtr(*table, &(**table)[place]));

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,11 +24,12 @@ using CellPtr = std::shared_ptr<CColorboxEl>;
 // caller that keeps a cell (a hot or selected cell) keeps it alive after removal.
 //
 // A cell added from a shared table costs the list one 8-byte slot (its face's number
-// and its drawn bounds) until someone asks for it as an object (Item, the searches, iteration);
-// from then on the list keeps that object, so every later request answers the same
-// cell, and the object holds the cell's state. The controls paint through Face and
+// and its drawn bounds) until someone asks for it as an object (Item, the searches,
+// iteration). While anyone holds that object, every request answers it and it holds
+// the cell's state; once only the list holds it, and it still shows its table's face,
+// the list may turn it back into its slot. The controls paint through Face and
 // SetBounds by position, so a shown control holds objects only for the cells it
-// handed out (its selected or hot cell).
+// keeps (its selected or hot cell).
 class CColorboxCol {
  public:
   // In-order iteration; each step answers the cell's object, making it if needed.
@@ -129,6 +131,9 @@ class CColorboxCol {
   // The kept table holding face `number`, and the face's place in it.
   std::pair<const FaceTable*, std::size_t> Locate(std::uint16_t number) const;
   const CellFace& NumberedFace(std::uint16_t number) const;
+  // The number of a face of a kept table; none for a face of the cell's own.
+  std::optional<std::uint16_t> NumberOf(const CellFace* face) const;
+  void FoldUnheld() const;
   void Append(const CellPtr& cell);
 
   const CommonGlobals& errors_;

@@ -12,7 +12,8 @@ namespace lumo {
 namespace {
 
 // Cells added from a shared table, whose bounds a control stores by position: what is
-// stored reads back whole through the cell object, made before or after the store.
+// stored reads back whole through the cell object, made before or after the store, and
+// what is changed through an object nobody holds any more stays changed.
 struct StoredBounds {
   Rect bounds;
   bool hitAtBottomRight;
@@ -45,6 +46,11 @@ TEST_P(TableCells, KeepStoredBoundsWholeAndTheirObjectsOnceMade) {
             (std::vector<std::int32_t>{2, 5, 3, 4}));
   EXPECT_TRUE(late->IsLarge() && late->Name() == "b" && cells.Face(5).Name == "b");
   EXPECT_EQ(cells.GetObject(b.Right, b.Bottom), GetParam().hitAtBottomRight ? late : nullptr);
+  cells.Item(3)->SetBounds(b.Left, b.Top, b.Right, b.Bottom);  // objects only the list holds
+  cells.Item(6)->SetName("renamed");
+  cells.Item(1);
+  EXPECT_EQ(BoundsOf(cells.Item(3)), b);
+  EXPECT_EQ(cells.Item(6)->Name(), "renamed");
   cells.Remove(1);
   EXPECT_EQ((std::vector<std::int32_t>{late->Index(), early->Index(), cells.Count()}),
             (std::vector<std::int32_t>{1, 4, 5}));
