@@ -12,7 +12,7 @@
 
 namespace lumo::testing {
 
-// A window system whose state the test sets (capture, activation, focus, screen) and
+// A window system whose state the test sets (capture, activation, screen) and
 // whose modal shows run the test's script for that form and return when it unloads.
 class ScriptedWindowSystem : public WindowSystem {
  public:
@@ -35,7 +35,7 @@ class ScriptedWindowSystem : public WindowSystem {
     return true;
   }
   WindowHandle GetActiveWindow() const override { return ActiveWindow; }
-  WindowHandle GetFocus() const override { return Focus; }
+  WindowHandle GetFocus() const override { return 0; }  // no test moves the focus
   Point ClientToScreen(WindowHandle window, Point point) const override {
     const auto found = ClientOrigins.find(window);
     const Point origin = found == ClientOrigins.end() ? Point{} : found->second;
@@ -60,7 +60,6 @@ class ScriptedWindowSystem : public WindowSystem {
   std::int32_t ScreenHeightTwips = 768 * 15;
   WindowHandle Capture = 0;
   WindowHandle ActiveWindow = 0;
-  WindowHandle Focus = 0;
   std::map<WindowHandle, Point> ClientOrigins;  // screen position of each window's client origin
   std::vector<WindowHandle> CaptureCalls;
   int ReleaseCalls = 0;
