@@ -36,7 +36,6 @@ class PropertyBagTest : public QObject {
     QTest::newRow("font") << lumo::Variant(BoldArial()) << lumo::Variant(lumo::StdFont{});
     QTest::newRow("empty over a default") << lumo::Variant() << lumo::Variant(std::int32_t{7});
     QTest::newRow("number equal to its default") << lumo::Variant(std::int32_t{-1}) << lumo::Variant(std::int32_t{-1});
-    QTest::newRow("font equal to its default") << lumo::Variant(BoldArial()) << lumo::Variant(BoldArial());
   }
   void savedValueReadsBackFromText() {
     QFETCH(lumo::Variant, value);
