@@ -21,8 +21,9 @@ namespace LumoColorCombo::host {
 // pixel while everything stays sharp; text is drawn at the full device resolution.
 //
 // Colours are resolved when drawn, system colours through this widget's palette; the
-// image holds the result. When the palette or the pixel ratio changes, the widget
-// signals it so that the owning control can draw itself again.
+// image holds the result. When the palette or the pixel ratio changes, the widget tells
+// its owning control (setStaleHandler) and then signals it, so that the control draws
+// itself again.
 //
 // Input goes to the listener: mouse positions as logical pixels (outside the widget
 // while the mouse is grabbed), buttons 1 left, 2 right, 4 middle, shift mask 1 Shift,
