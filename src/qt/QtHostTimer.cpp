@@ -51,7 +51,8 @@ void QtHostTimer::Restart() {
   if (!enabled_ || interval_ <= 0) return;
   TimerReceiver& receiver = TimerReceiver::instance();
   timer_.start(interval_, &receiver);
-  receiver.add(timer_.timerId(), this);
+  // Not started without an event loop to run it (Qt says why).
+  if (timer_.isActive()) receiver.add(timer_.timerId(), this);
 }
 
 void QtHostTimer::Stop() {
