@@ -53,6 +53,7 @@ CellPtr CColorboxCol::Add(const std::string& sName, OLE_COLOR lColor, std::int32
 }
 
 void CColorboxCol::Append(const CellPtr& cell) {
+  EndEcho();
   cell->SetParent(this);
   slots_.emplace_back();
   made_.push_back(cell);
@@ -63,7 +64,12 @@ void CColorboxCol::Append(const CellPtr& cell) {
 void CColorboxCol::AddAll(const FaceTable& faces) {
   errors_.Trap(kModule, "Add", [&] {
     if (!faces || faces->empty()) return;
+    EndEcho();
     const std::size_t first = FirstNumberOf(faces);
+    if (CanEcho(faces, first)) {
+      StartEcho(first, faces->size());
+      return;
+    }
     // Exactly as many slots as cells: a control's list is loaded once and then kept.
     slots_.reserve(slots_.size() + faces->size());
     for (std::size_t i = 0; i < faces->size(); ++i) {
@@ -103,9 +109,107 @@ const CellFace& CColorboxCol::NumberedFace(std::uint16_t number) const {
   return (**table)[place];
 }
 
-CColorboxCol::Slot& CColorboxCol::SlotAt(std::int32_t index) const {
+bool CColorboxCol::CanEcho(const FaceTable& faces, std::size_t first) const {
+  // Only a load right after a load of the same table, whose cells still show its
+  // faces or are made; they may have been painted, which the echo catches up with.
+  const std::size_t count = faces->size();
+  if (count > slots_.size() || first + count > Slot::ObjectMade) return false;
+  const std::size_t start = slots_.size() - count;
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::uint16_t face = slots_[start + i].face;
+    if (face != Slot::ObjectMade && face != first + i) return false;
+  }
+  return true;
+}
+
+void CColorboxCol::StartEcho(std::size_t first, std::size_t count) {
+  // A new cell has no bounds yet: it keeps a slot of its own until its twin's bounds
+  // are stored for it too, as painting the whole list does.
+  const std::size_t start = slots_.size() - count;
+  const auto fresh = [&](std::size_t i) { return Slot{static_cast<std::uint16_t>(first + i)}; };
+  std::size_t differing = 0;
+  for (std::size_t i = 0; i < count; ++i) differing += slots_[start + i] == fresh(i) ? 0 : 1;
+  ownSlots_.reserve(differing);
+  for (std::size_t i = count; i-- > 0;) {
+    if (slots_[start + i] == fresh(i)) continue;
+    ownSlots_.emplace_back(EchoBase() + static_cast<std::int32_t>(i) + 1, fresh(i));
+  }
+  echo_ = static_cast<std::int32_t>(count);
+  newIndex_ = Count();
+}
+
+void CColorboxCol::EndEcho() {
+  if (echo_ == 0) return;
+  const std::size_t base = slots_.size();
+  slots_.reserve(base + static_cast<std::size_t>(echo_));
+  for (std::int32_t k = 1; k <= echo_; ++k) {
+    const std::int32_t position = static_cast<std::int32_t>(base) + k;
+    const auto own = OwnSlotOf(position);
+    const bool hasOwn = own != ownSlots_.end() && own->first == position;
+    slots_.push_back(hasOwn ? own->second : slots_[base - static_cast<std::size_t>(echo_) + k - 1]);
+  }
+  echo_ = 0;
+  std::vector<std::pair<std::int32_t, Slot>>().swap(ownSlots_);
+}
+
+std::vector<std::pair<std::int32_t, CColorboxCol::Slot>>::iterator CColorboxCol::OwnSlotOf(
+    std::int32_t position) const {
+  return std::lower_bound(ownSlots_.begin(), ownSlots_.end(), position,
+                          [](const auto& own, std::int32_t at) { return own.first > at; });
+}
+
+void CColorboxCol::KeepOwnSlot(std::int32_t position, const Slot& slot) const {
+  const auto own = OwnSlotOf(position);
+  if (own != ownSlots_.end() && own->first == position) {
+    own->second = slot;
+  } else {
+    ownSlots_.insert(own, {position, slot});
+  }
+}
+
+void CColorboxCol::DropOwnSlot(std::int32_t position) const {
+  const auto own = OwnSlotOf(position);
+  if (own == ownSlots_.end() || own->first != position) return;
+  ownSlots_.erase(own);
+  // Painting gives every echoing cell its own slot for a moment; the room goes back
+  // once the twins agree again.
+  if (ownSlots_.empty()) {
+    std::vector<std::pair<std::int32_t, Slot>>().swap(ownSlots_);
+  } else if (ownSlots_.size() * 4 <= ownSlots_.capacity()) {
+    ownSlots_.shrink_to_fit();
+  }
+}
+
+CColorboxCol::Slot CColorboxCol::SlotOf(std::int32_t position) const {
+  if (position <= EchoBase()) return slots_[static_cast<std::size_t>(position - 1)];
+  const auto own = OwnSlotOf(position);
+  if (own != ownSlots_.end() && own->first == position) return own->second;
+  return slots_[static_cast<std::size_t>(TwinOf(position) - 1)];
+}
+
+void CColorboxCol::StoreSlot(std::int32_t position, const Slot& slot) const {
+  // An echoing cell and its twin share one slot only while both hold it, and never a
+  // made object's mark: the object belongs to one cell.
+  const auto agree = [](const Slot& a, const Slot& b) { return a.face != Slot::ObjectMade && a == b; };
+  if (position > EchoBase()) {
+    if (agree(slot, slots_[static_cast<std::size_t>(TwinOf(position) - 1)])) {
+      DropOwnSlot(position);
+    } else {
+      KeepOwnSlot(position, slot);
+    }
+    return;
+  }
+  Slot& plain = slots_[static_cast<std::size_t>(position - 1)];
+  if (plain == slot) return;
+  const std::int32_t echo = position + echo_;
+  const bool hasEcho = position > EchoBase() - echo_;
+  if (hasEcho && SlotOf(echo) == plain) KeepOwnSlot(echo, plain);
+  plain = slot;
+  if (hasEcho && agree(slot, SlotOf(echo))) DropOwnSlot(echo);
+}
+
+void CColorboxCol::CheckIndex(std::int32_t index) const {
   if (index < 1 || index > Count()) throw RuntimeError(err::IndexOutOfRange);
-  return slots_[static_cast<std::size_t>(index - 1)];
 }
 
 std::vector<CellPtr>::iterator CColorboxCol::MadeFrom(std::int32_t position) const {
@@ -136,16 +240,17 @@ void CColorboxCol::FoldUnheld() const {
     const std::int32_t left = cell->BoundLeft();
     const std::int32_t top = cell->BoundTop();
     if (!number || !FitsSlot(left, top, cell->BoundRight(), cell->BoundBottom())) return false;
-    slots_[static_cast<std::size_t>(cell->Position() - 1)] =
-        Slot{*number, static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
-             static_cast<std::uint8_t>(cell->BoundRight() - left), static_cast<std::uint8_t>(cell->BoundBottom() - top)};
+    StoreSlot(cell->Position(),
+              Slot{*number, static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
+                   static_cast<std::uint8_t>(cell->BoundRight() - left),
+                   static_cast<std::uint8_t>(cell->BoundBottom() - top)});
     cell->SetParent(nullptr);
     return true;
   });
 }
 
 CellPtr CColorboxCol::Made(std::int32_t position) const {
-  Slot& slot = slots_[static_cast<std::size_t>(position - 1)];
+  const Slot slot = SlotOf(position);
   if (slot.face == Slot::ObjectMade) return *MadeFrom(position);
   FoldUnheld();
   const auto at = MadeFrom(position);
@@ -157,25 +262,26 @@ CellPtr CColorboxCol::Made(std::int32_t position) const {
   cell->SetParent(const_cast<CColorboxCol*>(this));
   cell->SetPosition(position);
   made_.insert(at, cell);
-  slot = Slot{};
+  StoreSlot(position, Slot{});
   return cell;
 }
 
 CellPtr CColorboxCol::Item(std::int32_t index) const {
   CellPtr result;
   errors_.Trap(kModule, "Item", [&] {
-    SlotAt(index);  // throws index out of range
+    CheckIndex(index);
     result = Made(index);
   });
   return result;
 }
 
-std::int32_t CColorboxCol::Count() const { return static_cast<std::int32_t>(slots_.size()); }
+std::int32_t CColorboxCol::Count() const { return EchoBase() + echo_; }
 
 void CColorboxCol::Remove(std::int32_t index) {
   errors_.Trap(kModule, "Remove", [&] {
     const CellPtr cell = Item(index);  // reports an invalid position itself
     if (!cell) return;
+    EndEcho();
     cell->SetParent(nullptr);
     const auto at = made_.erase(MadeFrom(index));
     slots_.erase(slots_.begin() + (index - 1));
@@ -189,26 +295,28 @@ void CColorboxCol::Clear() {
   // as n calls of Remove(1) without moving the rest of the list n times.
   errors_.Trap(kModule, "Clear", [&] {
     for (const auto& cell : made_) cell->SetParent(nullptr);
-    if (!slots_.empty()) newIndex_ = 0;
+    if (Count() != 0) newIndex_ = 0;
     slots_.clear();
+    echo_ = 0;
+    std::vector<std::pair<std::int32_t, Slot>>().swap(ownSlots_);
     made_.clear();
     tables_.clear();
   });
 }
 
 const CellFace& CColorboxCol::Face(std::int32_t index) const {
-  const Slot& slot = SlotAt(index);
+  CheckIndex(index);
+  const Slot slot = SlotOf(index);
   return slot.face != Slot::ObjectMade ? NumberedFace(slot.face) : *(*MadeFrom(index))->Face();
 }
 
 void CColorboxCol::SetBounds(std::int32_t index, std::int32_t left, std::int32_t top, std::int32_t right,
                              std::int32_t bottom) {
-  Slot& slot = SlotAt(index);
+  CheckIndex(index);
+  const Slot slot = SlotOf(index);
   if (slot.face != Slot::ObjectMade && FitsSlot(left, top, right, bottom)) {
-    slot.left = static_cast<std::int16_t>(left);
-    slot.top = static_cast<std::int16_t>(top);
-    slot.width = static_cast<std::uint8_t>(right - left);
-    slot.height = static_cast<std::uint8_t>(bottom - top);
+    StoreSlot(index, Slot{slot.face, static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
+                          static_cast<std::uint8_t>(right - left), static_cast<std::uint8_t>(bottom - top)});
     return;
   }
   Made(index)->SetBounds(left, top, right, bottom);
@@ -221,8 +329,9 @@ std::int32_t CColorboxCol::FirstWhere(Match&& match) const {
   // kind of cell has its own call, so a match reads only the fields it compares.
   constexpr bool byBounds = std::is_invocable_v<Match&, const Rect&>;
   auto made = made_.cbegin();
-  for (std::size_t i = 0; i < slots_.size(); ++i) {
-    const Slot& slot = slots_[i];
+  const auto count = static_cast<std::size_t>(Count());
+  for (std::size_t i = 0; i < count; ++i) {
+    const Slot slot = SlotOf(static_cast<std::int32_t>(i + 1));
     bool found = false;
     if (slot.face != Slot::ObjectMade) {
       if constexpr (byBounds) {

@@ -30,6 +30,11 @@ using CellPtr = std::shared_ptr<CColorboxEl>;
 // the list may turn it back into its slot. The controls paint through Face and
 // SetBounds by position, so a shown control holds objects only for the cells it
 // keeps (its selected or hot cell).
+//
+// A table loaded again right after its own load (the honeycomb loads its table
+// twice) costs no plain slots: the later cells echo the earlier ones, and only a
+// later cell whose slot differs from its twin's keeps a slot of its own.
+// Adding or removing cells turns the echo into plain slots first.
 class CColorboxCol {
  public:
   // In-order iteration; each step answers the cell's object, making it if needed.
@@ -115,14 +120,31 @@ class CColorboxCol {
     std::int16_t top = 0;
     std::uint8_t width = 0;
     std::uint8_t height = 0;
+    bool operator==(const Slot&) const = default;
   };
   static_assert(sizeof(Slot) == 8);
+
+  // The slot of the cell at `position` (in range), wherever it is kept.
+  Slot SlotOf(std::int32_t position) const;
+  // Gives the cell at `position` (in range) the slot `slot`, keeping the echo true.
+  void StoreSlot(std::int32_t position, const Slot& slot) const;
+  // The first echoing position, and the position an echoing cell repeats.
+  std::int32_t EchoBase() const { return static_cast<std::int32_t>(slots_.size()); }
+  std::int32_t TwinOf(std::int32_t position) const { return position - echo_; }
+  std::vector<std::pair<std::int32_t, Slot>>::iterator OwnSlotOf(std::int32_t position) const;
+  void KeepOwnSlot(std::int32_t position, const Slot& slot) const;
+  void DropOwnSlot(std::int32_t position) const;
+  // Whether appending `faces` numbered from `first` may echo the cells before it.
+  bool CanEcho(const FaceTable& faces, std::size_t first) const;
+  void StartEcho(std::size_t first, std::size_t count);
+  // Turns the echo into plain slots: what adding and removing cells work on.
+  void EndEcho();
 
   // The position of the first cell for which `match` holds, given the cell's face or,
   // when it takes a Rect, its inclusive drawn bounds; 0 when none does. No object is made.
   template <class Match>
   std::int32_t FirstWhere(Match&& match) const;
-  Slot& SlotAt(std::int32_t index) const;  // throws index out of range
+  void CheckIndex(std::int32_t index) const;  // throws index out of range
   // The object of the cell at `position` (in range), made on first request.
   CellPtr Made(std::int32_t position) const;
   std::vector<CellPtr>::iterator MadeFrom(std::int32_t position) const;
@@ -142,6 +164,11 @@ class CColorboxCol {
   mutable std::vector<Slot> slots_;
   mutable std::vector<CellPtr> made_;  // the objects made so far, in position order
   std::vector<FaceTable> tables_;      // the tables whose faces the slots show, in numbering order
+  // The number of cells after the plain slots that echo the last `echo_` of them, and
+  // the slots of those echoing cells that differ from their twins', last position first:
+  // painting in position order then drops them from the back.
+  std::int32_t echo_ = 0;
+  mutable std::vector<std::pair<std::int32_t, Slot>> ownSlots_;
   std::int32_t newIndex_ = 0;
   std::int32_t shape_ = 0;
 };
